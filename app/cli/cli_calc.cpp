@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/cli/befehle.h"
+#include "app/cli/ergebnis_json.h"
+#include "app/cli/pfade.h"
+#include "calc/c_mod.h"
+#include "climate/klimadatei.h"
+#include "climate/klimainfo.h"
+#include "project/c_glob.h"
+
+int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler) {
+    bool neu = false, stunden = false;
+    std::string klima = datenordner("klima");
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i] == "--new") {
+            neu = true;
+        } else if (args[i] == "--hourly") {
+            stunden = true;
+        } else if (args[i] == "--klima" && i + 1 < args.size()) {
+            klima = args[++i];
+        } else {
+            fehler << "velmaris-cli calc: unexpected argument \"" << args[i] << "\"\n";
+            return 1;
+        }
+    }
+    if (!neu) {
+        fehler << "usage: velmaris-cli calc --new [--klima DIR] [--hourly]\n";
+        return 1;
+    }
+
+    Projekt& p = projekt();
+    p.AppPfad = programmordner();
+    p.KlimaOrdner = klima;
+    // The start sequence: build the new project with the guard set, then one recalculation.
+    p.FormLoadGuard = -1;
+    neues_projekt(p);
+    klimadatei_lesen(p);
+    p.FormLoadGuard = 0;
+    alles_berechnen(p);
+    klima_jahreswerte(p);
+
+    aus << ergebnis_json(p, stunden) << "\n";
+    return 0;
+}

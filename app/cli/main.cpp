@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// velmaris-cli: the program's calculations without a display.
+#include "app/cli/befehle.h"
+#include "project/FatalError.h"
+
+#include <cstring>
+#include <iostream>
+#include <vector>
+
+namespace {
+
+void hilfe(std::ostream& aus) {
+    aus << "usage: velmaris-cli COMMAND ...\n"
+           "  calc --new [--klima DIR] [--hourly]   recalculate the new project, print JSON\n";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    if (args.empty() || args[0] == "--help" || args[0] == "-h") {
+        hilfe(args.empty() ? std::cerr : std::cout);
+        return args.empty() ? 1 : 0;
+    }
+    const std::vector<std::string> rest(args.begin() + 1, args.end());
+    try {
+        if (args[0] == "calc") {
+            return befehl_calc(rest, std::cout, std::cerr);
+        }
+        std::cerr << "velmaris-cli: unknown command \"" << args[0] << "\"\n";
+        hilfe(std::cerr);
+        return 1;
+    } catch (const FatalError& fehler) {
+        std::cerr << "velmaris-cli: " << fehler.what() << "\n";
+        return 2;
+    }
+}

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "climate/wetter_laden.h"
+
+#include "calc/c_mod.h"
+#include "climate/klimadatei.h"
+#include "climate/klimainfo.h"
+
+void wetter_laden(Projekt& p) {
+    klimadatei_lesen(p);
+    alles_berechnen(p);
+    klima_jahreswerte(p);
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+// A fault that ends the calculation: a missing or short station file, a negative effective heat
+// capacity, a division by zero, an integer or float overflow. The text says which file, line or
+// quantity and what went wrong. Desktop and command line catch it; nothing continues with
+// garbage.
+class FatalError : public std::runtime_error {
+public:
+    explicit FatalError(const std::string& text) : std::runtime_error(text) {}
+};

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/Testprojekt.h"
+
+#include "calc/c_mod.h"
+#include "climate/klimadatei.h"
+
+#include <atomic>
+#include <fstream>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+TempOrdner::TempOrdner() {
+    static std::atomic<int> zaehler{0};
+    pfad_ = fs::temp_directory_path() /
+            ("velmaris-test-" + std::to_string(::getpid()) + "-" + std::to_string(zaehler++));
+    fs::create_directories(pfad_);
+}
+
+TempOrdner::~TempOrdner() {
+    std::error_code fehler;
+    fs::remove_all(pfad_, fehler);
+}
+
+fs::path TempOrdner::schreiben(const std::string& name, const std::string& inhalt) const {
+    const fs::path ziel = pfad_ / name;
+    std::ofstream(ziel, std::ios::binary) << inhalt;
+    return ziel;
+}
+
+std::unique_ptr<Projekt> leeres_projekt() { return std::make_unique<Projekt>(); }
+
+std::unique_ptr<Projekt> neues_testprojekt(const TempOrdner& ordner,
+                                           const std::function<Stationsstunde(int, int)>& stunde,
+                                           const Stationskopf& kopf) {
+    ordner.schreiben("trier.met", station_text(kopf, stunde));
+    auto p = leeres_projekt();
+    p->KlimaOrdner = ordner.pfad().string();
+    p->FormLoadGuard = -1;
+    neues_projekt(*p);
+    klimadatei_lesen(*p);
+    p->FormLoadGuard = 0;
+    alles_berechnen(*p);
+    return p;
+}
