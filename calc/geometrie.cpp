@@ -18,7 +18,9 @@ constexpr float FX_UGD[5][3] = {
     {0.9f, 0.9f, 0.9f},   // outdoor air (raised floor)
 };
 
-float f32(double v) { return static_cast<float>(v); }
+float f32(double v) {
+    return static_cast<float>(v);
+}
 
 } // namespace
 

@@ -22,7 +22,9 @@ double nutzungsgrad_allgemein(double gamma, double a) {
     return (r - 1 / gamma) / (r - 1);
 }
 
-float f32(double v) { return static_cast<float>(v); }
+float f32(double v) {
+    return static_cast<float>(v);
+}
 
 } // namespace
 
@@ -46,20 +48,20 @@ void monatsbilanz(Projekt& p) {
     // Only rows 0..3 exist; with a heated attic the factor is that of row 0, which is 1.
     const int k = p.Dachgeschoss ? 0 : p.Dachraum_typ;
     if (k < 0 || k > 3) {
-        throw FatalError("The roof space kind " + std::to_string(k) + " is outside the table 0..3.");
+        throw FatalError("The roof space kind " + std::to_string(k) +
+                         " is outside the table 0..3.");
     }
     const double faktor = p.Dachraum[static_cast<std::size_t>(k)].Faktor;
-    const double dach = static_cast<double>(p.f_dach_n) + p.f_dach_flach + p.f_dach_s +
-                        p.f_dach_o + p.f_dach_w;
+    const double dach =
+        static_cast<double>(p.f_dach_n) + p.f_dach_flach + p.f_dach_s + p.f_dach_o + p.f_dach_w;
     // Conductances in W/K, summed in the order of the loss formula; the gables count as wall of
     // their facade, windows and door carry no heat bridge surcharge.
     const double H_dach = (p.kd + Wd) * dach;
     const double H_boden = (p.kk + Wd) * p.f_gd * p.Fx_ugd;
     const double H_tuer = static_cast<double>(p.kt) * p.ft;
-    const double H_fenster[4] = {static_cast<double>(p.kfw) * p.f_wf,
-                                 static_cast<double>(p.kfo) * p.f_of,
-                                 static_cast<double>(p.kfs) * p.f_sf,
-                                 static_cast<double>(p.kfn) * p.f_nf};
+    const double H_fenster[4] = {
+        static_cast<double>(p.kfw) * p.f_wf, static_cast<double>(p.kfo) * p.f_of,
+        static_cast<double>(p.kfs) * p.f_sf, static_cast<double>(p.kfn) * p.f_nf};
     const double H_wand[4] = {(p.kwo + Wd) * (static_cast<double>(p.f_giebel_o) + p.f_ow),
                               (p.kww + Wd) * (static_cast<double>(p.f_giebel_w) + p.f_ww),
                               (p.kwn + Wd) * (static_cast<double>(p.f_giebel_n) + p.f_nw),
@@ -82,10 +84,14 @@ void monatsbilanz(Projekt& p) {
         }
 
         // 0.024 turns W/K times Kd into kWh.
-        p.Fensterverlust_N = f32(p.Fensterverlust_N + static_cast<double>(p.kfn) * p.f_nf * D * 0.024);
-        p.Fensterverlust_W = f32(p.Fensterverlust_W + static_cast<double>(p.kfw) * p.f_wf * D * 0.024);
-        p.Fensterverlust_S = f32(p.Fensterverlust_S + static_cast<double>(p.kfs) * p.f_sf * D * 0.024);
-        p.Fensterverlust_O = f32(p.Fensterverlust_O + static_cast<double>(p.kfo) * p.f_of * D * 0.024);
+        p.Fensterverlust_N =
+            f32(p.Fensterverlust_N + static_cast<double>(p.kfn) * p.f_nf * D * 0.024);
+        p.Fensterverlust_W =
+            f32(p.Fensterverlust_W + static_cast<double>(p.kfw) * p.f_wf * D * 0.024);
+        p.Fensterverlust_S =
+            f32(p.Fensterverlust_S + static_cast<double>(p.kfs) * p.f_sf * D * 0.024);
+        p.Fensterverlust_O =
+            f32(p.Fensterverlust_O + static_cast<double>(p.kfo) * p.f_of * D * 0.024);
 
         M.Qt = f32((H_dach * faktor * D + H_rest * D) * 0.024);
         p.qtr_Waende = f32(p.qtr_Waende + H_waende * 0.024 * D);
@@ -99,14 +105,18 @@ void monatsbilanz(Projekt& p) {
         M.Qv = f32(luftwechsel * D * 0.0086);
 
         // Solar gains per facade, MJ/m² turned to kWh by 3.6; shading is a reduction.
-        const float S_N = f32((1 - static_cast<double>(p.ran)) * (1 - static_cast<double>(p.verschn)) *
-                              p.gfn * p.f_nf * M.Strahlung_N / 3.6);
-        const float S_W = f32((1 - static_cast<double>(p.raw)) * (1 - static_cast<double>(p.verschw)) *
-                              p.gfw * p.f_wf * M.Strahlung_W / 3.6);
-        const float S_O = f32((1 - static_cast<double>(p.rao)) * (1 - static_cast<double>(p.verscho)) *
-                              p.gfo * p.f_of * M.Strahlung_O / 3.6);
-        const float S_S = f32((1 - static_cast<double>(p.ras)) * (1 - static_cast<double>(p.verschs)) *
-                              p.gfs * p.f_sf * M.Strahlung_S / 3.6);
+        const float S_N =
+            f32((1 - static_cast<double>(p.ran)) * (1 - static_cast<double>(p.verschn)) * p.gfn *
+                p.f_nf * M.Strahlung_N / 3.6);
+        const float S_W =
+            f32((1 - static_cast<double>(p.raw)) * (1 - static_cast<double>(p.verschw)) * p.gfw *
+                p.f_wf * M.Strahlung_W / 3.6);
+        const float S_O =
+            f32((1 - static_cast<double>(p.rao)) * (1 - static_cast<double>(p.verscho)) * p.gfo *
+                p.f_of * M.Strahlung_O / 3.6);
+        const float S_S =
+            f32((1 - static_cast<double>(p.ras)) * (1 - static_cast<double>(p.verschs)) * p.gfs *
+                p.f_sf * M.Strahlung_S / 3.6);
         M.Qs_brutto = f32(static_cast<double>(S_N) + S_W + S_O + S_S);
 
         // A month without loss has no usable gains and no heat demand.

@@ -12,7 +12,9 @@
 
 namespace {
 
-float f32(double v) { return static_cast<float>(v); }
+float f32(double v) {
+    return static_cast<float>(v);
+}
 
 // The coefficients shown on the climate information plane, W/K and W/(m² K).
 void kennwerte_schreiben(Projekt& p, double Hv) {
@@ -20,17 +22,17 @@ void kennwerte_schreiben(Projekt& p, double Hv) {
     Klimakennwerte& k = p.Klimainfo;
     k.tau_h = p.tau / 3600.0;
     k.Vspez = Hv;
-    k.Tspez = (static_cast<double>(p.f_giebel_s) + p.f_sw) * (p.kws + Wd) +
-              (static_cast<double>(p.f_giebel_n) + p.f_nw) * (p.kwn + Wd) +
-              (static_cast<double>(p.f_giebel_o) + p.f_ow) * (p.kwo + Wd) +
-              (static_cast<double>(p.f_giebel_w) + p.f_ww) * (p.kww + Wd) +
-              static_cast<double>(p.kfn) * p.f_nf + static_cast<double>(p.kfs) * p.f_sf +
-              static_cast<double>(p.kfo) * p.f_of + static_cast<double>(p.kfw) * p.f_wf +
-              static_cast<double>(p.kt) * p.ft +
-              (static_cast<double>(p.f_dach_n) + p.f_dach_flach + p.f_dach_s + p.f_dach_o +
-               p.f_dach_w) *
-                  (p.kd + Wd) +
-              (p.kk + Wd) * p.f_gd;
+    k.Tspez =
+        (static_cast<double>(p.f_giebel_s) + p.f_sw) * (p.kws + Wd) +
+        (static_cast<double>(p.f_giebel_n) + p.f_nw) * (p.kwn + Wd) +
+        (static_cast<double>(p.f_giebel_o) + p.f_ow) * (p.kwo + Wd) +
+        (static_cast<double>(p.f_giebel_w) + p.f_ww) * (p.kww + Wd) +
+        static_cast<double>(p.kfn) * p.f_nf + static_cast<double>(p.kfs) * p.f_sf +
+        static_cast<double>(p.kfo) * p.f_of + static_cast<double>(p.kfw) * p.f_wf +
+        static_cast<double>(p.kt) * p.ft +
+        (static_cast<double>(p.f_dach_n) + p.f_dach_flach + p.f_dach_s + p.f_dach_o + p.f_dach_w) *
+            (p.kd + Wd) +
+        (p.kk + Wd) * p.f_gd;
     const double A = (p.kws + Wd) * p.f_sw + (p.kwn + Wd) * p.f_nw + (p.kwo + Wd) * p.f_ow +
                      (p.kww + Wd) * p.f_ww + static_cast<double>(p.kfn) * p.f_nf +
                      static_cast<double>(p.kfs) * p.f_sf + static_cast<double>(p.kfo) * p.f_of +
@@ -58,7 +60,8 @@ void stundensimulation(Projekt& p) {
     zeitkonstante_berechnen(p);
     const int i = p.Dachgeschoss ? 0 : p.Dachraum_typ;
     if (i < 0 || i > 3) {
-        throw FatalError("The roof space kind " + std::to_string(i) + " is outside the table 0..3.");
+        throw FatalError("The roof space kind " + std::to_string(i) +
+                         " is outside the table 0..3.");
     }
     const double Hv = lueftungskoeffizient(p);
     kennwerte_schreiben(p, Hv);
@@ -142,22 +145,22 @@ void stundensimulation(Projekt& p) {
                     I_DF = f32(fDF[x] * Dir + Dif);
                 }
 
-                const double Gs = p.f_sf * static_cast<double>(I_S) * (1 - static_cast<double>(p.verschs)) *
-                                      (1 - static_cast<double>(p.ras)) * p.gfs +
-                                  p.f_nf * static_cast<double>(I_N) * (1 - static_cast<double>(p.verschn)) *
-                                      (1 - static_cast<double>(p.ran)) * p.gfn +
-                                  p.f_of * static_cast<double>(I_O) * (1 - static_cast<double>(p.verscho)) *
-                                      (1 - static_cast<double>(p.rao)) * p.gfo +
-                                  p.f_wf * static_cast<double>(I_W) * (1 - static_cast<double>(p.verschw)) *
-                                      (1 - static_cast<double>(p.raw)) * p.gfw;
+                const double Gs =
+                    p.f_sf * static_cast<double>(I_S) * (1 - static_cast<double>(p.verschs)) *
+                        (1 - static_cast<double>(p.ras)) * p.gfs +
+                    p.f_nf * static_cast<double>(I_N) * (1 - static_cast<double>(p.verschn)) *
+                        (1 - static_cast<double>(p.ran)) * p.gfn +
+                    p.f_of * static_cast<double>(I_O) * (1 - static_cast<double>(p.verscho)) *
+                        (1 - static_cast<double>(p.rao)) * p.gfo +
+                    p.f_wf * static_cast<double>(I_W) * (1 - static_cast<double>(p.verschw)) *
+                        (1 - static_cast<double>(p.raw)) * p.gfw;
                 // Driving power, W. The west wall subtracts its radiation term where the three
                 // other walls add it; that stands as it is.
-                const double P = U_flach * (sc * I_DF + Ta) + U_dn * (sc * I_DN + Ta) +
-                                 U_ds * (sc * I_DS + Ta) + U_do * (sc * I_DO + Ta) +
-                                 U_dw * (sc * I_DW + Ta) + U_n * (s * I_N + Ta) +
-                                 U_s * (s * I_S + Ta) + U_o * (s * I_O + Ta) +
-                                 U_w * (Ta - s * I_W) + Gs + Hv * Ta + Gi + U_tuer * Ta +
-                                 U_rest * Ta;
+                const double P =
+                    U_flach * (sc * I_DF + Ta) + U_dn * (sc * I_DN + Ta) + U_ds * (sc * I_DS + Ta) +
+                    U_do * (sc * I_DO + Ta) + U_dw * (sc * I_DW + Ta) + U_n * (s * I_N + Ta) +
+                    U_s * (s * I_S + Ta) + U_o * (s * I_O + Ta) + U_w * (Ta - s * I_W) + Gs +
+                    Hv * Ta + Gi + U_tuer * Ta + U_rest * Ta;
 
                 // Exact step of C dT/dt = P - (Ht + Hv) T over one hour.
                 const double gleichgewicht = static_cast<double>(tau) * P / Cwirk;
@@ -182,9 +185,8 @@ void stundensimulation(Projekt& p) {
                     const double D = Ta - T_regel;
                     double Gt = U_flach * (sc * I_DF + D) + U_dn * (sc * I_DN + D) +
                                 U_ds * (sc * I_DS + D) + U_do * (sc * I_DO + D) +
-                                U_dw * (sc * I_DW + D) + U_n * (s * I_N + D) +
-                                U_s * (s * I_S + D) + U_o * (s * I_O + D) +
-                                U_w * (D - s * I_W) + U_tuer * D + U_rest * D;
+                                U_dw * (sc * I_DW + D) + U_n * (s * I_N + D) + U_s * (s * I_S + D) +
+                                U_o * (s * I_O + D) + U_w * (D - s * I_W) + U_tuer * D + U_rest * D;
                     if (Gt < 0) {
                         Gt = 0;
                     }

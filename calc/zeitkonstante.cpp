@@ -59,9 +59,9 @@ void zeitkonstante_berechnen(Projekt& p) {
     // 1290 J/(m³ K) for the air itself.
     p.Cwirk = to_f32(p.v_luft * 1290.0 + C, "effective heat capacity Cwirk");
     if (p.Cwirk / static_cast<double>(p.v_geb) / 3600 < 0) {
-        throw FatalError("The effective heat capacity comes out negative (Cwirk = " +
-                         std::to_string(p.Cwirk) +
-                         " J/K): the building is too tall or too light for its floor area.");
+        throw FatalError(
+            "The effective heat capacity comes out negative (Cwirk = " + std::to_string(p.Cwirk) +
+            " J/K): the building is too tall or too light for its floor area.");
     }
     if (Ht + Hv == 0) {
         throw FatalError("Division by zero: the time constant needs a transmission or "

@@ -3,7 +3,9 @@
 
 #include <cmath>
 
-double arccos(double x) { return std::atan(-x / std::sqrt(1 - x * x)) + 1.5708; }
+double arccos(double x) {
+    return std::atan(-x / std::sqrt(1 - x * x)) + 1.5708;
+}
 
 Sonnenaufgang sonnenaufgang(int n, float Breite, float L) {
     // This declination uses 2 · 3.14159 and 3.14159 / 180, unlike the hourly formulas.
@@ -50,7 +52,9 @@ double zeitgleichung(int n) {
     return 9.87 * std::sin(2 * B) - 7.53 * std::cos(B) - 1.5 * std::sin(B);
 }
 
-float stundenwinkel(double T) { return static_cast<float>((T * 15 - 180) * GRAD); }
+float stundenwinkel(double T) {
+    return static_cast<float>((T * 15 - 180) * GRAD);
+}
 
 } // namespace
 
@@ -97,6 +101,6 @@ float einfallsfaktor(const Sonnenstunde& s, const Ebenenlage& e, double sin_phi,
 float einfallsfaktor_ebene(int n, float L, int h, double azimut, double neigung, float Breite,
                            int16_t orient) {
     const double phi = Breite;
-    return einfallsfaktor(sonnenstunde(n, L, h), ebenenlage(orient, azimut, neigung),
-                          std::sin(phi), std::cos(phi));
+    return einfallsfaktor(sonnenstunde(n, L, h), ebenenlage(orient, azimut, neigung), std::sin(phi),
+                          std::cos(phi));
 }

@@ -67,8 +67,8 @@ void heizgrenztemperatur(Projekt& p) {
     const double Rr = (p.kd + Wd) * p.f_gd;
     const double Rf = (p.kk + Wd) * p.f_gd * p.Fx_ugd;
     const double Ht = Hw + k * Rr + Rf;
-    const double Hv = ((1 - static_cast<double>(p.WRG)) * p.lw + p.infiltration) / 3600 * 1000 *
-                      1.29 * p.v_luft;
+    const double Hv =
+        ((1 - static_cast<double>(p.WRG)) * p.lw + p.infiltration) / 3600 * 1000 * 1.29 * p.v_luft;
     const double Gi = static_cast<double>(p.f_nutz) * p.intg * 1000 / 8760;
     const float Tg = to_f32(p.Troom - Gi / (Hv + Ht), "heating limit temperature");
 
@@ -94,4 +94,6 @@ void heizgrenztemperatur(Projekt& p) {
     info.Heizgradtage = static_cast<float>(gradtage);
 }
 
-void Ausfuellen(Projekt& p) { heizgrenztemperatur(p); }
+void Ausfuellen(Projekt& p) {
+    heizgrenztemperatur(p);
+}

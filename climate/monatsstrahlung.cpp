@@ -23,8 +23,8 @@ void monatsstrahlung_berechnen(Projekt& p) {
             ++n;
             for (int h = 1; h <= 24; ++h) {
                 const Wetterwert& w = p.Wetter(m, d, h);
-                temperatur = static_cast<float>(temperatur + static_cast<double>(w.Ta) /
-                                                                 monat.Tage / 24);
+                temperatur =
+                    static_cast<float>(temperatur + static_cast<double>(w.Ta) / monat.Tage / 24);
                 // Isotropic sky on a vertical plane, and ground reflection (albedo 0.25 times
                 // 0.5) of diffuse plus direct normal radiation.
                 const double Dh = w.Diffus * 0.5;

@@ -6,9 +6,13 @@
 
 namespace {
 
-float f32(double v) { return static_cast<float>(v); }
+float f32(double v) {
+    return static_cast<float>(v);
+}
 
-bool ist_strom(const Projekt& p) { return p.Energie.Traegername == "Strom"; }
+bool ist_strom(const Projekt& p) {
+    return p.Energie.Traegername == "Strom";
+}
 
 } // namespace
 
@@ -18,8 +22,7 @@ void EnergRefresh(Projekt& p) {
         k.q_ce = k.q_s = k.q_d = 0;
         k.q_s_he = k.q_d_he = k.q_g_he = 0;
     }
-    p.q_HE_Energietraeger =
-        f32((static_cast<double>(p.qhs_sum) + k.q_ce + k.q_s + k.q_d) * k.e_g);
+    p.q_HE_Energietraeger = f32((static_cast<double>(p.qhs_sum) + k.q_ce + k.q_s + k.q_d) * k.e_g);
     p.q_HE_Strom = f32(static_cast<double>(k.q_d_he) + k.q_s_he + k.q_g_he);
     p.q_PE_Energietraeger = f32(static_cast<double>(p.q_HE_Energietraeger) * k.f_p);
     p.q_PE_Strom = f32(p.q_HE_Strom * PRIMAERFAKTOR_STROM);

@@ -99,8 +99,7 @@ Energiekennwerte katalog_werte(int16_t Heizsystem, int16_t Uebergabe, int16_t En
     const int s = Heizsystem, u = Uebergabe, t = Energietraeger;
     if (s < 1 || s > 9 || u < 1 || u > 2 || t < 1 || t > 4 || !angeboten(s, t)) {
         throw FatalError("The heat supply " + std::to_string(s) + "/" + std::to_string(u) + "/" +
-                         std::to_string(t) +
-                         " (system/transfer/carrier) is not in the catalogue.");
+                         std::to_string(t) + " (system/transfer/carrier) is not in the catalogue.");
     }
     Energiekennwerte k;
     k.q_ce = s <= 7 ? 1.1f : (s == 8 ? 0.7f : 4.4f);
@@ -116,7 +115,8 @@ Energiekennwerte katalog_werte(int16_t Heizsystem, int16_t Uebergabe, int16_t En
         }
     }
     if (s == 7) {
-        k.q_s = u == 1 ? nachschlagen(QS_1_X, QS_1, 0, f_nutz) : nachschlagen(QS_2_X, QS_2, 0, f_nutz);
+        k.q_s =
+            u == 1 ? nachschlagen(QS_1_X, QS_1, 0, f_nutz) : nachschlagen(QS_2_X, QS_2, 0, f_nutz);
         k.q_s_he = nachschlagen(FLAECHEN, QSHE, 0.05f, f_nutz);
     }
 

@@ -8,9 +8,9 @@ Projekt& projekt() {
 
 void neues_projekt(Projekt& p) {
     const char* const regionen[12] = {
-        "bremen.met",         "braunschweig.met", "hamburg.met",   "trier.met",
-        "würzburg.met",       "frankfurt_main.met", "freiburg.met", "weihenstephan.met",
-        "münchen.met",        "hohenpeissenberg.met", "passau.met", "konstanz.met"};
+        "bremen.met",   "braunschweig.met",     "hamburg.met",  "trier.met",
+        "würzburg.met", "frankfurt_main.met",   "freiburg.met", "weihenstephan.met",
+        "münchen.met",  "hohenpeissenberg.met", "passau.met",   "konstanz.met"};
     for (int i = 1; i <= 12; ++i) {
         p.Regionsdatei[i] = regionen[i - 1];
     }

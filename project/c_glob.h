@@ -23,19 +23,19 @@ struct Monatswerte {
     int16_t Tage = 0; // days of the month, 28..31
     // radiation on the vertical plane of the facade, MJ/m² in the month
     int16_t Strahlung_N = 0, Strahlung_S = 0, Strahlung_O = 0, Strahlung_W = 0;
-    float Tmittel = 0;          // mean outdoor temperature, °C
-    float Nutzgrad = 0;         // utilisation factor of the gains, 0..1
-    float Qt = 0;               // transmission losses, kWh
-    float Qv = 0;               // ventilation losses, kWh
-    float Qs_genutzt = 0;       // usable solar gains, kWh
-    float Qi_genutzt = 0;       // usable internal gains, kWh
-    float Qs_brutto = 0;        // solar gains before utilisation, kWh
-    float Qi_brutto = 0;        // internal gains before utilisation, kWh
-    float Qh = 0;               // heat demand, kWh
-    float Kuehlbedarf = 0;      // cooling energy, kWh
-    float Kuehlgradstunden = 0; // excess of the free-running temperature over Tueber, Kh
-    int16_t Stunden_kalt = 0;   // hours with free-running temperature below Troom
-    int16_t Stunden_heiss = 0;  // hours with free-running temperature above Tueber
+    float Tmittel = 0;           // mean outdoor temperature, °C
+    float Nutzgrad = 0;          // utilisation factor of the gains, 0..1
+    float Qt = 0;                // transmission losses, kWh
+    float Qv = 0;                // ventilation losses, kWh
+    float Qs_genutzt = 0;        // usable solar gains, kWh
+    float Qi_genutzt = 0;        // usable internal gains, kWh
+    float Qs_brutto = 0;         // solar gains before utilisation, kWh
+    float Qi_brutto = 0;         // internal gains before utilisation, kWh
+    float Qh = 0;                // heat demand, kWh
+    float Kuehlbedarf = 0;       // cooling energy, kWh
+    float Kuehlgradstunden = 0;  // excess of the free-running temperature over Tueber, Kh
+    int16_t Stunden_kalt = 0;    // hours with free-running temperature below Troom
+    int16_t Stunden_heiss = 0;   // hours with free-running temperature above Tueber
     int16_t Stunden_komfort = 0; // hours from Troom up to and including Tueber
     // Kuehlbedarf shared out over its four causes, kWh
     float Kuehl_solar = 0, Kuehl_intern = 0, Kuehl_trans = 0, Kuehl_lueft = 0;
@@ -73,32 +73,32 @@ struct Dachraumzeile {
 
 // The characteristic values of the chosen heat supply, as the energy plane shows them.
 struct Energiekennwerte {
-    float q_ce = 0;   // loss of heat transfer, kWh/(m² a)
-    float q_d = 0;    // loss of distribution, kWh/(m² a)
-    float q_s = 0;    // loss of storage, kWh/(m² a)
-    float e_g = 0;    // expense number of heat generation
-    float q_d_he = 0; // auxiliary electricity of distribution, kWh/(m² a)
-    float q_s_he = 0; // auxiliary electricity of storage, kWh/(m² a)
-    float q_g_he = 0; // auxiliary electricity of generation, kWh/(m² a)
-    float f_p = 0;    // primary energy factor of the carrier
+    float q_ce = 0;            // loss of heat transfer, kWh/(m² a)
+    float q_d = 0;             // loss of distribution, kWh/(m² a)
+    float q_s = 0;             // loss of storage, kWh/(m² a)
+    float e_g = 0;             // expense number of heat generation
+    float q_d_he = 0;          // auxiliary electricity of distribution, kWh/(m² a)
+    float q_s_he = 0;          // auxiliary electricity of storage, kWh/(m² a)
+    float q_g_he = 0;          // auxiliary electricity of generation, kWh/(m² a)
+    float f_p = 0;             // primary energy factor of the carrier
     std::string Traegername;   // short carrier name, German; also the key of the logic
     std::string Traegername_e; // short carrier name, English
 };
 
 // The figures of the climate information plane and of the climate plane's labels.
 struct Klimakennwerte {
-    int MaxMonat = 0, MinMonat = 0;              // warmest and coldest month, 1..12
-    float MaxMonatTemp = 0, MinMonatTemp = 0;    // their Tmittel, °C
-    float MittelJahrTemp = 0;                    // year mean of Tmittel, °C
-    float MaxJahrTemp = 0, MinJahrTemp = 0;      // extreme hourly Ta of the year, °C
-    double tau_h = 0;                            // time constant, h
-    double Vspez = 0;                            // ventilation coefficient, W/K
-    double Tspez = 0;                            // transmission coefficient with gables, W/K
-    double Umittel = 0;                          // mean U value of the envelope, W/(m² K)
-    double TVspez = 0;                           // transmission plus ventilation, W/K
-    float Heizgrenztemperatur = 0;               // heating limit temperature, °C
-    int Heiztage = 0;                            // days with a mean below the limit
-    float Heizgradtage = 0;                      // heating degree days 20/12, Kd
+    int MaxMonat = 0, MinMonat = 0;           // warmest and coldest month, 1..12
+    float MaxMonatTemp = 0, MinMonatTemp = 0; // their Tmittel, °C
+    float MittelJahrTemp = 0;                 // year mean of Tmittel, °C
+    float MaxJahrTemp = 0, MinJahrTemp = 0;   // extreme hourly Ta of the year, °C
+    double tau_h = 0;                         // time constant, h
+    double Vspez = 0;                         // ventilation coefficient, W/K
+    double Tspez = 0;                         // transmission coefficient with gables, W/K
+    double Umittel = 0;                       // mean U value of the envelope, W/(m² K)
+    double TVspez = 0;                        // transmission plus ventilation, W/K
+    float Heizgrenztemperatur = 0;            // heating limit temperature, °C
+    int Heiztage = 0;                         // days with a mean below the limit
+    float Heizgradtage = 0;                   // heating degree days 20/12, Kd
 };
 
 struct Projekt {
@@ -127,7 +127,7 @@ struct Projekt {
     int16_t cbk_hDach = 0;                    // ventilated roof check, 0 or 1
 
     // --- Window inputs, per facade n, s, o (east), w
-    int16_t fn = 0, fs = 0, fo = 0, fw = 0;                 // window share, percent
+    int16_t fn = 0, fs = 0, fo = 0, fw = 0;                   // window share, percent
     float verschn = 0, verschs = 0, verscho = 0, verschw = 0; // shading reduction, 0..1
     float ran = 0, ras = 0, rao = 0, raw = 0;                 // frame share, 0..1
     int16_t fenstern_typ = 0, fensters_typ = 0, fenstero_typ = 0, fensterw_typ = 0;
@@ -140,40 +140,40 @@ struct Projekt {
 
     // --- Building inputs
     int16_t awn = 0, aws = 0, awo = 0, aww = 0; // 1 outer wall, 0 wall to a heated neighbour
-    float lw = 0;             // mechanical air change, 1/h
-    float infiltration = 0;   // infiltration air change, 1/h
-    float WRG = 0;            // heat recovery efficiency, 0..1
-    float intg = 0;           // internal gains, kWh/(m² a) of usable floor
-    float Troom = 0;          // set temperature, °C
-    float Tueber = 0;         // overheating limit and cooling set point, °C
+    float lw = 0;                               // mechanical air change, 1/h
+    float infiltration = 0;                     // infiltration air change, 1/h
+    float WRG = 0;                              // heat recovery efficiency, 0..1
+    float intg = 0;                             // internal gains, kWh/(m² a) of usable floor
+    float Troom = 0;                            // set temperature, °C
+    float Tueber = 0;                           // overheating limit and cooling set point, °C
     float Klimaeffizienz = 0; // cooling energy per electric energy of the cooling plant
     // Plane state of the two construction lists, index 0 heavy, 1 medium, 2 light.
     int16_t Aussenwandart = 1;
     int16_t Innenwandart = 1;
 
     // --- Climate and heat supply inputs
-    std::string Klimadatei;   // station file name, no folder
-    int16_t Klimaauswahl = 0; // active climate option, 1..3
-    int16_t Heizsystem = 0;   // row of the heating system catalogue, 1..9
-    int16_t Uebergabe = 0;    // transfer of that row, 1..2
+    std::string Klimadatei;     // station file name, no folder
+    int16_t Klimaauswahl = 0;   // active climate option, 1..3
+    int16_t Heizsystem = 0;     // row of the heating system catalogue, 1..9
+    int16_t Uebergabe = 0;      // transfer of that row, 1..2
     int16_t Energietraeger = 0; // carrier of that row, 1..4
 
     // --- Derived geometry, written by the driver only (areas m², volumes m³)
-    float Dachneigung = 0; // roof pitch, degrees; 0 without heated attic
+    float Dachneigung = 0;                            // roof pitch, degrees; 0 without heated attic
     float f_sfa = 0, f_wfa = 0, f_nfa = 0, f_ofa = 0; // gross facade, 0 for a non-outer wall
     float f_dach_s = 0, f_dach_w = 0, f_dach_n = 0, f_dach_o = 0; // roof planes by direction
     float f_dach_flach = 0;                                       // flat upper ceiling
     float f_giebel_s = 0, f_giebel_w = 0, f_giebel_n = 0, f_giebel_o = 0; // gable triangles
-    float v_geb = 0;  // gross heated volume
-    float v_luft = 0; // air volume
-    float f_gd = 0;   // ground floor area
-    float f_nutz = 0; // usable floor area
-    float AV = 0;     // envelope to volume, 1/m
-    float Fx_ugd = 0; // temperature correction of the lower floor
+    float v_geb = 0;                                                      // gross heated volume
+    float v_luft = 0;                                                     // air volume
+    float f_gd = 0;                                                       // ground floor area
+    float f_nutz = 0;                                                     // usable floor area
+    float AV = 0;                                                         // envelope to volume, 1/m
+    float Fx_ugd = 0;                             // temperature correction of the lower floor
     float f_nf = 0, f_wf = 0, f_sf = 0, f_of = 0; // window areas
     float f_nw = 0, f_ww = 0, f_sw = 0, f_ow = 0; // net walls; the north one less the door
-    float f_wand = 0; // sum of the net walls
-    float f_gf = 0;   // sum of the window areas
+    float f_wand = 0;                             // sum of the net walls
+    float f_gf = 0;                               // sum of the window areas
 
     // --- Building parameters
     float Cwirk = 0; // effective heat capacity of building and air, J/K
@@ -181,9 +181,9 @@ struct Projekt {
 
     // --- Climate of the current station
     OneBased<Monatswerte, MONATE> Monat;
-    std::array<Dachraumzeile, 4> Dachraum; // rows 0..2 from the station read, row 3 empty
+    std::array<Dachraumzeile, 4> Dachraum;      // rows 0..2 from the station read, row 3 empty
     OneBased<std::string, MONATE> Regionsdatei; // station file of each German region
-    float Breite = 0;           // latitude, radians
+    float Breite = 0;                           // latitude, radians
     float Laengenkorrektur = 0; // longitude minus 15 times the zone, degrees (west positive)
     Stundentabelle<Wetterwert> Wetter;
 

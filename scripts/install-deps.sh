@@ -3,7 +3,7 @@
 set -euo pipefail
 
 pakete=(
-    cmake ninja-build g++ pkg-config
+    cmake ninja-build g++ pkg-config clang libclang-rt-14-dev
     libgtest-dev libgmock-dev libbenchmark-dev
 )
 

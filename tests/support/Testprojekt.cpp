@@ -28,7 +28,9 @@ fs::path TempOrdner::schreiben(const std::string& name, const std::string& inhal
     return ziel;
 }
 
-std::unique_ptr<Projekt> leeres_projekt() { return std::make_unique<Projekt>(); }
+std::unique_ptr<Projekt> leeres_projekt() {
+    return std::make_unique<Projekt>();
+}
 
 std::unique_ptr<Projekt> neues_testprojekt(const TempOrdner& ordner,
                                            const std::function<Stationsstunde(int, int)>& stunde,

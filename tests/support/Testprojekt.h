@@ -29,7 +29,7 @@ std::unique_ptr<Projekt> leeres_projekt();
 
 // The new project on a station written into `ordner` as "trier.met", read and recalculated as
 // at start. `stunde` gives the station's hours (default: the synthetic climate).
-std::unique_ptr<Projekt> neues_testprojekt(
-    const TempOrdner& ordner,
-    const std::function<Stationsstunde(int, int)>& stunde = synthetisches_wetter,
-    const Stationskopf& kopf = Stationskopf{});
+std::unique_ptr<Projekt>
+neues_testprojekt(const TempOrdner& ordner,
+                  const std::function<Stationsstunde(int, int)>& stunde = synthetisches_wetter,
+                  const Stationskopf& kopf = Stationskopf{});

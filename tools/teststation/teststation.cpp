@@ -65,7 +65,8 @@ Stationsstunde synthetisches_wetter(int tag, int stunde) {
     const double dekl = 23.45 * pi / 180 * std::sin(2 * pi * (284 + tag) / 365.0);
     const double phi = 50 * pi / 180;
     const double w = (mitte - 12.5) * 15 * pi / 180;
-    const double sinh = std::sin(phi) * std::sin(dekl) + std::cos(phi) * std::cos(dekl) * std::cos(w);
+    const double sinh =
+        std::sin(phi) * std::sin(dekl) + std::cos(phi) * std::cos(dekl) * std::cos(w);
     if (sinh > 0) {
         const double klar = 1000 * sinh * std::exp(-0.2 / std::max(sinh, 0.05));
         const double wolken = bewoelkung(tag);
