@@ -1,1 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The monthly heat balance and its utilisation factor.
+#include "calc/c_mod.h"
+#include "calc/monatsbilanz.h"
+#include "tests/support/Testprojekt.h"
+
+#include <cmath>
 #include <gtest/gtest.h>
+
+namespace {
+
+// A station at a constant temperature without any sun.
+std::function<Stationsstunde(int, int)> konstant(double Ta) {
+    return [Ta](int, int) { return Stationsstunde{Ta, 0, 0}; };
+}
+
+} // namespace
+
+TEST(Nutzungsgrad, LimitAndGeneralForm) {
+    TempOrdner ordner;
+    auto p = neues_testprojekt(ordner);
+    const double a = static_cast<float>(p->tau / 3600.0 / 16 + 1);
+    // Exactly 1: the limit a / (a + 1), no division by zero.
+    EXPECT_FLOAT_EQ(nutzungsgrad(*p, 1.0f), static_cast<float>(a / (a + 1)));
+    // No gains: every gain is usable.
+    EXPECT_FLOAT_EQ(nutzungsgrad(*p, 0.0f), 1.0f);
+    // The next float above 1 goes through the general form and lands next to the limit.
+    const float knapp = std::nextafter(1.0f, 2.0f);
+    EXPECT_NEAR(nutzungsgrad(*p, knapp), a / (a + 1), 1e-5);
+    // Large gains: the factor tends to 1 / gamma.
+    EXPECT_NEAR(nutzungsgrad(*p, 50.0f), 1.0 / 50, 1e-6);
+    const double g = 0.5;
+    EXPECT_NEAR(nutzungsgrad(*p, 0.5f), (1 - std::pow(g, a)) / (1 - std::pow(g, a + 1)), 1e-6);
+}
+
+TEST(Nutzungsgrad, HugeTimeConstantWithLargeGainsStaysFinite) {
+    TempOrdner ordner;
+    auto p = neues_testprojekt(ordner);
+    // Almost no losses: a time constant of years, and gamma^a overflows a double.
+    p->kwn = p->kws = p->kwo = p->kww = p->kd = p->kk = 0.01f;
+    p->Waermebruecken = 0;
+    p->kfn = p->kfs = p->kfo = p->kfw = 0.01f;
+    p->infiltration = 0;
+    p->Aussenwandart = p->Innenwandart = 0;
+    const float f = nutzungsgrad(*p, 1000.0f);
+    EXPECT_NEAR(f, 1.0 / 1000, 1e-9);
+}
+
+TEST(Monatsbilanz, JanuaryAtZeroDegreesWorkedByHand) {
+    TempOrdner ordner;
+    auto p = neues_testprojekt(ordner, konstant(0));
+    const Monatswerte& jan = p->Monat[1];
+    const double D = 20 * 31; // Kd
+    // Conductance, W/K: flat ceiling 0.3 x 100 (roof space factor 1), floor 0.3 x 100 x 0.5,
+    // windows 1.42 x 28.6, walls 0.3 x 179.4.
+    const double H = 30 + 15 + 1.42 * 28.6 + 0.3 * 179.4;
+    EXPECT_NEAR(jan.Qt, H * D * 0.024, 0.01);
+    EXPECT_NEAR(jan.Qv, 0.6 * 416 * D * 0.0086, 0.01);
+    EXPECT_NEAR(jan.Qi_brutto, 25.0 * 160 * 31 / 365, 1e-3);
+    EXPECT_FLOAT_EQ(jan.Qs_brutto, 0);
+    EXPECT_FLOAT_EQ(jan.Qs_genutzt, 0);
+    // Gains of a tenth of the losses are almost fully usable.
+    EXPECT_GT(jan.Nutzgrad, 0.999f);
+    EXPECT_NEAR(jan.Qh, jan.Qt + jan.Qv - jan.Qi_genutzt, 1e-3);
+    EXPECT_NEAR(p->qtr_Boden, 15 * 20 * 365 * 0.024, 0.05);
+    EXPECT_NEAR(p->qtr_Dach, 30 * 20 * 365 * 0.024, 0.05);
+}
+
+TEST(Monatsbilanz, WarmMonthHasNoUsableGainsAndNoDemand) {
+    TempOrdner ordner;
+    auto p = neues_testprojekt(ordner);
+    p->Troom = 5; // every summer month of the synthetic climate is warmer
+    alles_berechnen(*p);
+    const Monatswerte& juli = p->Monat[7];
+    EXPECT_FLOAT_EQ(juli.Qt, 0);
+    EXPECT_FLOAT_EQ(juli.Qv, 0);
+    EXPECT_FLOAT_EQ(juli.Nutzgrad, 0);
+    EXPECT_FLOAT_EQ(juli.Qs_genutzt, 0);
+    EXPECT_FLOAT_EQ(juli.Qi_genutzt, 0);
+    EXPECT_FLOAT_EQ(juli.Qh, 0);
+    EXPECT_GT(juli.Qs_brutto, 0);
+    EXPECT_GT(juli.Qi_brutto, 0);
+}
+
+TEST(Monatsbilanz, YearSumsCloseOverMonthsPartsAndFacades) {
+    TempOrdner ordner;
+    auto p = neues_testprojekt(ordner);
+    p->Dachgeschoss = true;
+    p->hd = 3;
+    p->ft = 2;
+    alles_berechnen(*p);
+    double qh = 0, qtr = 0, qsol = 0;
+    for (int m = 1; m <= 12; ++m) {
+        const Monatswerte& M = p->Monat[m];
+        EXPECT_NEAR(M.Qh, M.Qt + M.Qv - M.Qs_genutzt - M.Qi_genutzt, 1e-3) << "month " << m;
+        qh += M.Qh;
+        qtr += M.Qt;
+        qsol += M.Qs_genutzt;
+    }
+    EXPECT_NEAR(p->qh, qh, qh * 1e-6);
+    EXPECT_NEAR(p->qtr, qtr, qtr * 1e-6);
+    // Transmission by building part adds up to the whole.
+    const double teile = p->qtr_Waende + p->qtr_Dach + p->qtr_Boden + p->qtr_Fenster + p->qtr_Tuer;
+    EXPECT_NEAR(teile, p->qtr, p->qtr * 1e-5);
+    const double fenster =
+        p->Fensterverlust_N + p->Fensterverlust_W + p->Fensterverlust_S + p->Fensterverlust_O;
+    EXPECT_NEAR(fenster, p->qtr_Fenster, p->qtr_Fenster * 1e-5);
+    const double gewinn =
+        p->Fenstergewinn_N + p->Fenstergewinn_W + p->Fenstergewinn_S + p->Fenstergewinn_O;
+    EXPECT_NEAR(gewinn, qsol, qsol * 1e-5);
+    EXPECT_NEAR(p->qhs_sum, p->qh / p->f_nutz, 1e-4);
+    EXPECT_NEAR(p->qverl_s, p->qinfs + p->qtrs, 1e-4);
+}
+
+TEST(Monatsbilanz, HeatedAtticIgnoresTheRoofSpaceKind) {
+    TempOrdner ordner;
+    auto p = neues_testprojekt(ordner);
+    p->Dachgeschoss = true;
+    alles_berechnen(*p);
+    const float qt = p->qtr;
+    p->Dachraum_typ = 2;
+    alles_berechnen(*p);
+    EXPECT_FLOAT_EQ(p->qtr, qt);
+
+    // Without the attic the kind reduces the ceiling loss; the empty row 3 removes it.
+    p->Dachgeschoss = false;
+    p->Dachraum_typ = 0;
+    alles_berechnen(*p);
+    const float voll = p->qtr_Dach;
+    p->Dachraum_typ = 2;
+    alles_berechnen(*p);
+    EXPECT_NEAR(p->qtr_Dach, voll * 0.5, voll * 1e-6);
+    p->Dachraum_typ = 3;
+    alles_berechnen(*p);
+    EXPECT_FLOAT_EQ(p->qtr_Dach, 0);
+}
+
+TEST(Monatsbilanz, SouthWindowsGainMoreThanNorthWindows) {
+    TempOrdner ordner;
+    auto p = neues_testprojekt(ordner);
+    p->fn = p->fs = p->fo = p->fw = 20;
+    alles_berechnen(*p);
+    EXPECT_GT(p->Fenstergewinn_S, p->Fenstergewinn_O);
+    EXPECT_GT(p->Fenstergewinn_S, p->Fenstergewinn_W);
+    EXPECT_GT(p->Fenstergewinn_O, p->Fenstergewinn_N);
+    EXPECT_GT(p->Fenstergewinn_W, p->Fenstergewinn_N);
+}

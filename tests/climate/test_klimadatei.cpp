@@ -1,1 +1,187 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Reading station files: layout, row rotation, derived direct radiation and the fatal paths.
+#include "climate/Sonne.h"
+#include "climate/klimadatei.h"
+#include "climate/monatsstrahlung.h"
+#include "project/FatalError.h"
+#include "tests/support/Testprojekt.h"
+
 #include <gtest/gtest.h>
+
+namespace {
+
+std::unique_ptr<Projekt> lesen(const TempOrdner& ordner, const std::string& text) {
+    ordner.schreiben("station.met", text);
+    auto p = leeres_projekt();
+    p->KlimaOrdner = ordner.pfad().string();
+    p->Klimadatei = "station.met";
+    klimadatei_lesen(*p);
+    return p;
+}
+
+// The text without its last line (each line ends in CR LF).
+std::string ohne_letzte_zeile(std::string text) {
+    text.erase(text.rfind("\r\n", text.size() - 3) + 2);
+    return text;
+}
+
+} // namespace
+
+TEST(Klimadatei, FirstRowIsTheLastHourOfTheYear) {
+    TempOrdner ordner;
+    // Each hour carries its hour and the last digit of its day in the temperature.
+    auto p = lesen(ordner, station_text({}, [](int tag, int stunde) {
+                       return Stationsstunde{stunde + (tag % 10) / 10.0, 0, 0};
+                   }));
+    EXPECT_FLOAT_EQ(p->Wetter(12, 31, 24).Ta, 24.5f); // day 365
+    EXPECT_FLOAT_EQ(p->Wetter(1, 1, 1).Ta, 1.1f);
+    EXPECT_FLOAT_EQ(p->Wetter(1, 1, 24).Ta, 24.1f);
+    EXPECT_FLOAT_EQ(p->Wetter(3, 1, 1).Ta, 1.0f); // day 60
+    EXPECT_FLOAT_EQ(p->Wetter(12, 31, 23).Ta, 23.5f);
+    EXPECT_EQ(p->Monat[2].Tage, 28);
+    EXPECT_EQ(p->Monat[12].Tage, 31);
+}
+
+TEST(Klimadatei, HeaderGivesLatitudeAndLongitudeCorrection) {
+    TempOrdner ordner;
+    Stationskopf kopf;
+    kopf.breite = 49.75;
+    kopf.laenge = -6.64; // 6.64° east
+    kopf.zone = -1;      // central European time
+    auto p = lesen(ordner, station_text(kopf, synthetisches_wetter));
+    EXPECT_FLOAT_EQ(p->Breite, static_cast<float>(49.75 * 0.01745));
+    EXPECT_FLOAT_EQ(p->Laengenkorrektur, 8.36f);
+    kopf.breite = 0;
+    kopf.laenge = 15;
+    kopf.zone = 1;
+    p = lesen(ordner, station_text(kopf, synthetisches_wetter));
+    EXPECT_FLOAT_EQ(p->Laengenkorrektur, 0);
+}
+
+TEST(Klimadatei, DirectRadiationIsDerivedAndImplausibleValuesDrop) {
+    TempOrdner ordner;
+    auto p = lesen(ordner, station_text({}, [](int, int) { return Stationsstunde{5, 900, 100}; }));
+    int verworfen = 0, behalten = 0;
+    for (int d = 1; d <= 30; ++d) {
+        for (int h = 1; h <= 24; ++h) {
+            const Wetterwert& w = p->Wetter(6, d, h);
+            EXPECT_FLOAT_EQ(w.Diffus, 100);
+            const int n = 151 + d;
+            const float f = direktfaktor_horizontal(
+                n, p->Laengenkorrektur,
+                stichzeit(h, sonnenaufgang(n, p->Breite, p->Laengenkorrektur)), p->Breite);
+            const float direkt = f * 800.0f;
+            if (direkt > 1370) {
+                EXPECT_FLOAT_EQ(w.Direkt, 0) << "day " << d << " hour " << h;
+                ++verworfen;
+            } else {
+                EXPECT_FLOAT_EQ(w.Direkt, direkt) << "day " << d << " hour " << h;
+                ++behalten;
+            }
+        }
+    }
+    // A low sun blows 1 / cos z up: those hours are dropped, not capped.
+    EXPECT_GT(verworfen, 0);
+    EXPECT_GT(behalten, 0);
+    // At night the sun is down whatever the file says.
+    EXPECT_FLOAT_EQ(p->Wetter(6, 15, 1).Direkt, 0);
+}
+
+TEST(Klimadatei, DiffuseAboveTotalGivesNoDirectRadiation) {
+    TempOrdner ordner;
+    auto p = lesen(ordner, station_text({}, [](int, int) { return Stationsstunde{5, 100, 300}; }));
+    EXPECT_FLOAT_EQ(p->Wetter(6, 15, 13).Direkt, 0);
+    EXPECT_FLOAT_EQ(p->Wetter(6, 15, 13).Diffus, 300);
+}
+
+TEST(Klimadatei, ExactLengthReadsAndExtraLinesAreIgnored) {
+    TempOrdner ordner;
+    const std::string text = station_text({}, synthetisches_wetter);
+    EXPECT_EQ(zeilen_teilen(text).size(), 8766u);
+    auto genau = lesen(ordner, text);
+    auto laenger = lesen(ordner, text + "  999 99.9 9999 9999\r\ngarbage\r\n");
+    EXPECT_FLOAT_EQ(laenger->Wetter(12, 31, 23).Ta, genau->Wetter(12, 31, 23).Ta);
+    EXPECT_EQ(laenger->Monat[7].Strahlung_S, genau->Monat[7].Strahlung_S);
+}
+
+TEST(Klimadatei, ShortOrMissingFileIsAClearFaultAndKeepsTheFormerClimate) {
+    TempOrdner ordner;
+    auto p = lesen(ordner, station_text({}, [](int, int) { return Stationsstunde{7.5, 0, 0}; }));
+    ordner.schreiben("kurz.met", ohne_letzte_zeile(station_text({}, synthetisches_wetter)));
+    p->Klimadatei = "kurz.met";
+    try {
+        klimadatei_lesen(*p);
+        FAIL() << "a short station file must not load";
+    } catch (const FatalError& e) {
+        const std::string text = e.what();
+        EXPECT_NE(text.find("kurz.met"), std::string::npos) << text;
+        EXPECT_NE(text.find("line 8766"), std::string::npos) << text;
+    }
+    EXPECT_FLOAT_EQ(p->Wetter(4, 4, 4).Ta, 7.5f);
+    EXPECT_NEAR(p->Monat[4].Tmittel, 7.5, 1e-4); // summed in float hour by hour
+
+    p->Klimadatei = "fehlt.met";
+    try {
+        klimadatei_lesen(*p);
+        FAIL() << "a missing station file must not load";
+    } catch (const FatalError& e) {
+        EXPECT_NE(std::string(e.what()).find("fehlt.met"), std::string::npos) << e.what();
+    }
+}
+
+TEST(Klimadatei, ShortRowsAndLfLineEndsRead) {
+    std::string text = station_text({}, [](int, int) { return Stationsstunde{3, 0, 0}; });
+    // Cut the temperature off one row and switch the whole file to LF line ends.
+    const std::size_t zeile = text.find("\r\n    1  3.0") + 2;
+    text.replace(zeile, 20, "    1");
+    std::string lf;
+    for (char c : text) {
+        if (c != '\r') {
+            lf += c;
+        }
+    }
+    TempOrdner ordner;
+    auto p = lesen(ordner, lf);
+    EXPECT_FLOAT_EQ(p->Wetter(1, 1, 1).Ta, 0);
+    EXPECT_FLOAT_EQ(p->Wetter(1, 1, 2).Ta, 3);
+}
+
+TEST(Klimadatei, RoofSpaceRowsAreFixedToTwentyFiveCharacters) {
+    TempOrdner ordner;
+    auto p = lesen(ordner, station_text({}, synthetisches_wetter));
+    EXPECT_EQ(p->Dachraum[0].Bezeichnung, "Außen oder nicht gedämmte");
+    EXPECT_EQ(p->Dachraum[1].Bezeichnung, "Teilgedämmtes Dach       ");
+    EXPECT_FLOAT_EQ(p->Dachraum[0].Faktor, 1.0f);
+    EXPECT_FLOAT_EQ(p->Dachraum[1].Faktor, 0.8f);
+    EXPECT_FLOAT_EQ(p->Dachraum[2].Faktor, 0.5f);
+    EXPECT_FLOAT_EQ(p->Dachraum[3].Faktor, 0);
+}
+
+TEST(Monatsstrahlung, DiffuseSkyWorkedByHandAndCutToWholeNumbers) {
+    TempOrdner ordner;
+    // 100 W/m² diffuse and nothing direct: a vertical plane gets 50 from the sky and 12.5 from
+    // the ground, 62.5 W/m² x 744 h = 46.5 kWh/m² = 167.4 MJ/m² in January, cut to 167.
+    auto p = lesen(ordner, station_text({}, [](int, int) { return Stationsstunde{-2, 100, 100}; }));
+    EXPECT_EQ(p->Monat[1].Strahlung_N, 167);
+    EXPECT_EQ(p->Monat[1].Strahlung_S, 167);
+    EXPECT_EQ(p->Monat[2].Strahlung_O, 151); // 62.5 x 672 h x 3.6 / 1000 = 151.2
+    EXPECT_NEAR(p->Monat[1].Tmittel, -2, 1e-5);
+    // 2200 W/m² diffuse gives 1375 W/m² on each plane: not plausible, left out.
+    p = lesen(ordner, station_text({}, [](int, int) { return Stationsstunde{0, 2200, 2200}; }));
+    EXPECT_EQ(p->Monat[1].Strahlung_W, 0);
+}
+
+TEST(Monatsstrahlung, TurningTheBuildingHalfRoundSwapsNorthAndSouth) {
+    TempOrdner ordner;
+    auto p = lesen(ordner, station_text({}, synthetisches_wetter));
+    const int sued = p->Monat[6].Strahlung_S, nord = p->Monat[6].Strahlung_N;
+    const int ost = p->Monat[6].Strahlung_O;
+    EXPECT_GT(sued, nord);
+    p->orient = 180;
+    monatsstrahlung_berechnen(*p);
+    EXPECT_NEAR(p->Monat[6].Strahlung_N, sued, 1);
+    EXPECT_NEAR(p->Monat[6].Strahlung_S, nord, 1);
+    p->orient = -90; // the south facade now faces east
+    monatsstrahlung_berechnen(*p);
+    EXPECT_NEAR(p->Monat[6].Strahlung_S, ost, 1);
+}
