@@ -11,7 +11,8 @@ namespace {
 
 void hilfe(std::ostream& aus) {
     aus << "usage: velmaris-cli COMMAND ...\n"
-           "  calc --new [--klima DIR] [--hourly]   recalculate the new project, print JSON\n";
+           "  calc --new [--klima DIR] [--hourly]   recalculate the new project, print JSON\n"
+           "  import SOURCE --name NAME ...          convert climate data into a station file\n";
 }
 
 } // namespace
@@ -26,6 +27,9 @@ int main(int argc, char** argv) {
     try {
         if (args[0] == "calc") {
             return befehl_calc(rest, std::cout, std::cerr);
+        }
+        if (args[0] == "import") {
+            return befehl_import(rest, std::cout, std::cerr);
         }
         std::cerr << "velmaris-cli: unknown command \"" << args[0] << "\"\n";
         hilfe(std::cerr);
