@@ -9,12 +9,6 @@
 
 namespace {
 
-std::unique_ptr<Projekt> neu() {
-    auto p = leeres_projekt();
-    neues_projekt(*p);
-    return p;
-}
-
 void rechnen(Projekt& p) {
     geometrie_berechnen(p);
     fensterflaechen_berechnen(p);
@@ -23,7 +17,7 @@ void rechnen(Projekt& p) {
 } // namespace
 
 TEST(Geometrie, NewProjectIsATenByTenBoxWithFlatCeiling) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     rechnen(*p);
     EXPECT_FLOAT_EQ(p->f_gd, 100);
     EXPECT_FLOAT_EQ(p->f_nfa, 52); // 10 m x 5.2 m
@@ -62,7 +56,7 @@ TEST(Geometrie, HeatedAtticAddsUsableFloorByRoofHeight) {
         {3.0f, 160 + 1.0 * 100 * 0.8 / 3 + 100 * 0.4 / 3, 520 + 150}, // both rules above 2
     };
     for (const Fall& f : faelle) {
-        auto p = neu();
+        auto p = neues_projekt_ohne_klima();
         p->Dachgeschoss = true;
         p->hd = f.hd;
         rechnen(*p);
@@ -73,7 +67,7 @@ TEST(Geometrie, HeatedAtticAddsUsableFloorByRoofHeight) {
 }
 
 TEST(Geometrie, RidgeDirectionDecidesWhichPlanesAndGablesExist) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     p->Dachgeschoss = true;
     p->l = 10;
     p->b = 8;
@@ -106,7 +100,7 @@ TEST(Geometrie, RidgeDirectionDecidesWhichPlanesAndGablesExist) {
 }
 
 TEST(Geometrie, WithoutHeatedAtticTheRoofHeightCountsNowhere) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     p->hd = 4.5f;
     rechnen(*p);
     EXPECT_FLOAT_EQ(p->Dachneigung, 0);
@@ -125,7 +119,7 @@ TEST(Geometrie, FloorDimensionFiveAndTenTakeTheMiddleColumn) {
         {10, 2, 0.25f},   {20, 3, 0.4f}, {20.2f, 3, 0.25f}, {9.8f, 4, 0.9f},   {20.2f, 4, 0.9f},
     };
     for (const Fall& f : faelle) {
-        auto p = neu();
+        auto p = neues_projekt_ohne_klima();
         p->l = p->b = f.seite;
         p->ugd_typ = f.ugd_typ;
         rechnen(*p);
@@ -134,7 +128,7 @@ TEST(Geometrie, FloorDimensionFiveAndTenTakeTheMiddleColumn) {
 }
 
 TEST(Geometrie, LowerFloorKindOutsideTheTableKeepsTheFactor) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     rechnen(*p);
     p->ugd_typ = 5;
     p->Fx_ugd = 0.123f;
@@ -143,7 +137,7 @@ TEST(Geometrie, LowerFloorKindOutsideTheTableKeepsTheFactor) {
 }
 
 TEST(Geometrie, WallToHeatedNeighbourHasNoAreaButKeepsItsShare) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     p->awn = 0;
     p->ft = 2;
     rechnen(*p);
@@ -165,7 +159,7 @@ TEST(Geometrie, AllWallsAdjoiningLeaveNoWindowsAndTheYearStillRuns) {
 }
 
 TEST(Geometrie, ZeroVolumeBecomesOne) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     p->h = 0;
     rechnen(*p);
     EXPECT_FLOAT_EQ(p->v_geb, 1);

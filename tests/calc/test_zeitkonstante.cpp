@@ -10,12 +10,6 @@
 
 namespace {
 
-std::unique_ptr<Projekt> neu() {
-    auto p = leeres_projekt();
-    neues_projekt(*p);
-    return p;
-}
-
 void rechnen(Projekt& p) {
     geometrie_berechnen(p);
     fensterflaechen_berechnen(p);
@@ -25,7 +19,7 @@ void rechnen(Projekt& p) {
 } // namespace
 
 TEST(Zeitkonstante, NewProjectWorkedByHand) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     rechnen(*p);
     // Medium construction 65000 J/(m² K) inside and out:
     //   outer walls 179.4 m², interior walls 16 rooms x 4 x sqrt(10) x 2.6 - 2 x (20 x 5.2),
@@ -40,7 +34,7 @@ TEST(Zeitkonstante, NewProjectWorkedByHand) {
 }
 
 TEST(Zeitkonstante, ConstructionListsActOnTheirOwnTerms) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     rechnen(*p);
     const float basis = p->Cwirk;
 
@@ -52,7 +46,7 @@ TEST(Zeitkonstante, ConstructionListsActOnTheirOwnTerms) {
     // An interior kind outside the list takes the outer wall's value.
     p->Innenwandart = 9;
     rechnen(*p);
-    auto schwer = neu();
+    auto schwer = neues_projekt_ohne_klima();
     schwer->Aussenwandart = 0;
     schwer->Innenwandart = 0;
     rechnen(*schwer);
@@ -63,7 +57,7 @@ TEST(Zeitkonstante, ConstructionListsActOnTheirOwnTerms) {
 }
 
 TEST(Zeitkonstante, WallToHeatedNeighbourCountsLikeAnInteriorWall) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     rechnen(*p);
     const float basis = p->Cwirk;
     p->aww = 0;
@@ -76,7 +70,7 @@ TEST(Zeitkonstante, WallToHeatedNeighbourCountsLikeAnInteriorWall) {
 }
 
 TEST(Zeitkonstante, NegativeCapacityIsAClearFault) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     // A tall single room on a small floor: no whole 10 m² room, so the interior walls come out
     // negative and outweigh everything else.
     p->l = p->b = 2;
@@ -93,7 +87,7 @@ TEST(Zeitkonstante, NegativeCapacityIsAClearFault) {
 }
 
 TEST(Zeitkonstante, NoLossAtAllIsADivisionByZero) {
-    auto p = neu();
+    auto p = neues_projekt_ohne_klima();
     p->kwn = p->kws = p->kwo = p->kww = p->kd = p->kk = 0;
     p->kfn = p->kfs = p->kfo = p->kfw = 0;
     p->Waermebruecken = 0;

@@ -32,6 +32,12 @@ std::unique_ptr<Projekt> leeres_projekt() {
     return std::make_unique<Projekt>();
 }
 
+std::unique_ptr<Projekt> neues_projekt_ohne_klima() {
+    auto p = leeres_projekt();
+    neues_projekt(*p);
+    return p;
+}
+
 std::unique_ptr<Projekt> neues_testprojekt(const TempOrdner& ordner,
                                            const std::function<Stationsstunde(int, int)>& stunde,
                                            const Stationskopf& kopf) {

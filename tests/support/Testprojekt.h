@@ -27,6 +27,10 @@ private:
 // A project record on the heap (the hourly tables make it too large for a test's stack).
 std::unique_ptr<Projekt> leeres_projekt();
 
+// A record with the inputs of a new project and no station read: enough for geometry and the
+// building parameters.
+std::unique_ptr<Projekt> neues_projekt_ohne_klima();
+
 // The new project on a station written into `ordner` as "trier.met", read and recalculated as
 // at start. `stunde` gives the station's hours (default: the synthetic climate).
 std::unique_ptr<Projekt>
