@@ -31,7 +31,9 @@ public:
         return name_;
     }
     bool frage_ja_nein(const std::string& text) override {
-        fehler_ << zeilen(text) << (ja_ ? " --ueberschreiben: yes\n" : " (no: --ueberschreiben)\n");
+        if (!ja_) {
+            fehler_ << zeilen(text) << " (no; --ueberschreiben answers yes)\n";
+        }
         return ja_;
     }
 
