@@ -219,6 +219,13 @@ struct Projekt {
     std::string KlimaOrdner;   // folder of the station files, normally AppPfad + "/klima"
     std::string Sprache;       // "d" or "e"
     int16_t Monat_Uebersicht = 7;
+
+    // --- Shared texts of the language of the run, set once per start
+    std::string txt_Aenderung, txt_Aenderung_Titel; // the prompt about unsaved changes
+    std::string txt_Ersetzen;                       // the prompt before replacing a file
+    std::string txt_Klima_fehlt, txt_Klima_Titel;   // a project's station file is missing
+    std::string txt_Sprache;                        // a language change needs a new start
+    std::string txt_Ueberwaermung, txt_Monat, txt_Jahresbilanz, txt_Raumluft, txt_Aussenluft;
 };
 
 // The one project of the running program.

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "planes/E_Energie.h"
+
+#include "calc/c_mod.h"
+#include "project/Laufzeitfehler.h"
+#include "project/c_glob.h"
+
+E_Energie::E_Energie(Projekt& p) : Heizsysteme(katalog_laden(p.Sprache)), p_(p) {}
+
+const Heizsystemzeile& E_Energie::zeile() const {
+    if (p_.Heizsystem < 1 || p_.Heizsystem > 9) {
+        throw Laufzeitfehler(Laufzeitfehler::IndexAusserhalb,
+                             "Subscript out of range: Heizsystem " + std::to_string(p_.Heizsystem));
+    }
+    return Heizsysteme[static_cast<std::size_t>(p_.Heizsystem - 1)];
+}
+
+void E_Energie::liste_oeffnen(const std::string& feld, const std::string* texte,
+                              std::size_t anzahl) {
+    for (std::size_t i = 0; i < Label_Auswahl.size(); ++i) {
+        const bool benutzt = i < anzahl;
+        Label_Auswahl[i].Caption = benutzt ? texte[i] : std::string();
+        // Empty entries and those behind the used range stay hidden.
+        Label_Auswahl[i].Visible = benutzt && !texte[i].empty();
+    }
+    Frame_Auswahl_Visible = !Frame_Auswahl_Visible;
+    Auswahlfeld = feld;
+}
+
+void E_Energie::Command1_Click() {
+    std::array<std::string, 9> texte;
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        texte[i] = Heizsysteme[i].Bezeichnung;
+    }
+    liste_oeffnen("Label_System", texte.data(), texte.size());
+}
+
+void E_Energie::Command2_Click() {
+    const Heizsystemzeile& z = zeile();
+    liste_oeffnen("Label_Übergabe", z.Uebergabe.data(), z.Uebergabe.size());
+}
+
+void E_Energie::Command3_Click() {
+    const Heizsystemzeile& z = zeile();
+    liste_oeffnen("Label_Energieträger", z.Energietraeger.data(), z.Energietraeger.size());
+}
+
+void E_Energie::Label_Auswahl_Click(int index) {
+    const std::string text = Label_Auswahl.at(static_cast<std::size_t>(index - 1)).Caption;
+    if (Auswahlfeld == "Label_System") {
+        p_.Heizsystem = static_cast<int16_t>(index);
+        Label_System.Caption = text;
+        // A new system starts with its first transfer and carrier: no stale index survives.
+        p_.Uebergabe = 1;
+        p_.Energietraeger = 1;
+        Label_Uebergabe.Caption = zeile().Uebergabe[0];
+        Label_Energietraeger.Caption = zeile().Energietraeger[0];
+    } else if (Auswahlfeld == "Label_Übergabe") {
+        p_.Uebergabe = static_cast<int16_t>(index);
+        Label_Uebergabe.Caption = text;
+    } else if (Auswahlfeld == "Label_Energieträger") {
+        p_.Energietraeger = static_cast<int16_t>(index);
+        Label_Energietraeger.Caption = text;
+    }
+    Frame_Auswahl_Visible = false;
+    alles_berechnen(p_);
+}
+
+void E_Energie::felder_zeigen() {
+    const Heizsystemzeile& z = zeile();
+    if (p_.Uebergabe < 1 || p_.Uebergabe > 2 || p_.Energietraeger < 1 || p_.Energietraeger > 4) {
+        throw Laufzeitfehler(Laufzeitfehler::IndexAusserhalb,
+                             "Subscript out of range: Uebergabe " + std::to_string(p_.Uebergabe) +
+                                 ", Energietraeger " + std::to_string(p_.Energietraeger));
+    }
+    Label_System.Caption = z.Bezeichnung;
+    Label_Uebergabe.Caption = z.Uebergabe[static_cast<std::size_t>(p_.Uebergabe - 1)];
+    Label_Energietraeger.Caption =
+        z.Energietraeger[static_cast<std::size_t>(p_.Energietraeger - 1)];
+}

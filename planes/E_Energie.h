@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "energy/katalog.h"
+#include "planes/Label.h"
+
+#include <array>
+#include <string>
+
+struct Projekt;
+
+// The selection part of the energy plane: three fields for heating system, transfer and
+// carrier, each with a button that opens a list of the catalogue's entries under it. Choosing
+// runs the driver but does not mark the project changed.
+class E_Energie {
+public:
+    explicit E_Energie(Projekt& p);
+    E_Energie(const E_Energie&) = delete;
+    E_Energie& operator=(const E_Energie&) = delete;
+
+    Label Label_System, Label_Uebergabe, Label_Energietraeger; // the three chosen texts
+    std::array<Label, 9> Label_Auswahl; // the list's entries 1..9 at index 0..8
+    bool Frame_Auswahl_Visible = false; // the list panel
+    std::string Auswahlfeld; // the field the open list serves: "Label_System", "Label_Übergabe"
+                             // or "Label_Energieträger"
+    std::array<Heizsystemzeile, 9> Heizsysteme; // the catalogue in the language of the run
+
+    // The buttons beside the three fields: fill the list and open or close it.
+    void Command1_Click();
+    void Command2_Click();
+    void Command3_Click();
+    // A click on the list entry `index`, 1..9.
+    void Label_Auswahl_Click(int index);
+    // A click on the panel beside the entries closes it.
+    void Frame_Auswahl_Click() { Frame_Auswahl_Visible = false; }
+    // The three fields show the stored choice. Throws Laufzeitfehler for an index outside the
+    // catalogue.
+    void felder_zeigen();
+
+private:
+    void liste_oeffnen(const std::string& feld, const std::string* texte, std::size_t anzahl);
+    const Heizsystemzeile& zeile() const;
+
+    Projekt& p_;
+};

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "planes/Eingabeflaechen.h"
+
+#include "project/c_glob.h"
+
+Eingabeflaechen::Eingabeflaechen(Projekt& p, char dezimal_zeichen)
+    : dezimal(dezimal_zeichen), daemmung(p, dezimal), fenster(p, dezimal),
+      geometrie(p, daemmung, dezimal), gebaeude(p, fenster, dezimal), energie(p), p_(p) {
+    rechenbeobachter_setzen(p_, this);
+}
+
+Eingabeflaechen::~Eingabeflaechen() {
+    rechenbeobachter_setzen(p_, nullptr);
+}
+
+void Eingabeflaechen::geometrie_berechnet(Projekt&) {
+    ++laeufe;
+    geometrie.anzeigen();
+    fenster.anzeigen();
+}
+
+void Eingabeflaechen::alles_berechnet(Projekt&) {
+    ++ganze_laeufe;
+    gebaeude.speicher_anzeigen();
+    energie.felder_zeigen();
+    if (geometrie.Visible) {
+        geometrie.AV_diagramm();
+    }
+}
