@@ -136,6 +136,29 @@ function pruefen(bild, name) {
   }
 }
 
+// The region of a place, by the map's partition; a place that the outline leaves just outside
+// (a border town) takes the region of the nearest map pixel of Germany.
+function region_fuer_ort() {
+  const feld = regionen(projiziert(staat('10m', '276')));
+  return (lon, lat) => {
+    const [px, py] = karte(lon, lat);
+    const x = Math.round(px), y = Math.round(py);
+    for (let radius = 0; radius < 20; radius++) {
+      let best = 0, dmin = Infinity;
+      for (let dy = -radius; dy <= radius; dy++) {
+        for (let dx = -radius; dx <= radius; dx++) {
+          const xx = x + dx, yy = y + dy;
+          if (xx < 0 || yy < 0 || xx >= BREITE || yy >= HOEHE) continue;
+          const r = feld[yy * BREITE + xx];
+          if (r && dx * dx + dy * dy < dmin) { dmin = dx * dx + dy * dy; best = r; }
+        }
+      }
+      if (best) return best;
+    }
+    throw new Error(`place ${lon} ${lat} lies far outside the map of Germany`);
+  };
+}
+
 function main(ziel) {
   const deutschland = projiziert(staat('10m', '276'));
   const nachbarn = projiziert(land('10m').filter((r) => r.some(([lon, lat]) => lon > 0 && lon < 20 && lat > 44 && lat < 58)));
@@ -154,4 +177,5 @@ function main(ziel) {
   }
 }
 
-main(process.argv[2] || `${__dirname}/../../Grafiken`);
+module.exports = { region_fuer_ort };
+if (require.main === module) main(process.argv[2] || `${__dirname}/../../Grafiken`);
