@@ -26,7 +26,7 @@ void E_Fenster::handler_verbinden(Fassade f) {
         // The window share does not depend on the mode.
         p_.Geaendert = 1;
         x.f = x.f_sb.Value();
-        x.f_anz.Caption = format_muster(x.f, "##0", dezimal_);
+        x.f_anz.Caption = format_muster(static_cast<double>(x.f), "##0", dezimal_);
         alles_berechnen(p_);
     };
     x.typ.Click = [this, f] { typ_gewaehlt(f); };
@@ -178,7 +178,7 @@ void E_Fenster::Command_HR_Click(int index) {
 }
 
 void E_Fenster::anzeigen() {
-    auto zahl = [this](double wert, const char* muster) {
+    auto zahl = [this](auto wert, const char* muster) {
         return format_muster(wert, muster, dezimal_);
     };
     const double n = p_.f_nf, s = p_.f_sf, o = p_.f_of, w = p_.f_wf;

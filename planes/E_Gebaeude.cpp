@@ -10,7 +10,7 @@
 
 E_Gebaeude::E_Gebaeude(Projekt& p, E_Fenster& fenster, char dezimal)
     : p_(p), fenster_(fenster), dezimal_(dezimal) {
-    auto zahl = [this](double wert, const char* muster) {
+    auto zahl = [this](auto wert, const char* muster) {
         return format_muster(wert, muster, dezimal_);
     };
     Troom_sb.Change = [this] { Troom_geaendert(); };

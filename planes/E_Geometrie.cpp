@@ -5,6 +5,7 @@
 #include "climate/monatsstrahlung.h"
 #include "planes/E_Daemmung.h"
 #include "planes/Zahlformat.h"
+#include "project/Zahltext.h"
 #include "project/c_glob.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ void E_Geometrie::groesse_geaendert(float& feld, double wert) {
 void E_Geometrie::orient_geaendert() {
     p_.Geaendert = 1;
     p_.orient = static_cast<int16_t>(-orient_sb.Value());
-    orient_anz.Caption = format_muster(p_.orient, "##0", dezimal_) + "°";
+    orient_anz.Caption = format_muster(static_cast<double>(p_.orient), "##0", dezimal_) + "°";
     monatsstrahlung_berechnen(p_);
     alles_berechnen(p_);
 }
@@ -105,12 +106,12 @@ void E_Geometrie::Option_Dachfirst_Click(int index) {
 
 void E_Geometrie::anzeigen() {
     const bool englisch = p_.Sprache == "e";
-    auto zahl = [this](double wert) { return format_muster(wert, "#0.0", dezimal_); };
+    auto zahl = [this](auto wert) { return format_muster(wert, "#0.0", dezimal_); };
     l_anz.Caption = (englisch ? "length: " : "Länge: ") + zahl(p_.l) + " m";
     b_anz.Caption = (englisch ? "width: " : "Breite: ") + zahl(p_.b) + " m";
     h_anz.Caption = zahl(p_.h) + " m";
     hd_anz.Caption = zahl(p_.hd) + " m";
-    ag_anz.Caption = format_muster(p_.ag, "0", dezimal_);
+    ag_anz.Caption = zahl_text(p_.ag, dezimal_);
     f_nfa_anz.Caption = " " + zahl(static_cast<double>(p_.h) * p_.l);
     f_wfa_anz.Caption = " " + zahl(static_cast<double>(p_.b) * p_.h);
     Giebel_anz.Caption = " " + zahl(static_cast<double>(p_.f_giebel_w) + p_.f_giebel_n) + " m²";

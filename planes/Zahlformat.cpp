@@ -5,7 +5,9 @@
 #include <cmath>
 #include <cstdlib>
 
-std::string format_muster(double wert, std::string_view muster, char dezimal) {
+namespace {
+
+std::string formatieren(double wert, std::string_view muster, char dezimal, int genauigkeit) {
     const std::size_t punkt = muster.find('.');
     const std::string_view ganz = muster.substr(0, punkt);
     const int stellen =
@@ -22,7 +24,7 @@ std::string format_muster(double wert, std::string_view muster, char dezimal) {
     // decimal number it stands for.
     char puffer[64];
     const auto erg = std::to_chars(puffer, puffer + sizeof puffer, std::fabs(wert),
-                                   std::chars_format::scientific, 14);
+                                   std::chars_format::scientific, genauigkeit - 1);
     const std::string_view sci(puffer, static_cast<std::size_t>(erg.ptr - puffer));
     const std::size_t e = sci.find('e');
     const int exponent = std::atoi(std::string(sci.substr(e + 1)).c_str());
@@ -82,4 +84,14 @@ std::string format_muster(double wert, std::string_view muster, char dezimal) {
         text += nach;
     }
     return text;
+}
+
+} // namespace
+
+std::string format_muster(double wert, std::string_view muster, char dezimal) {
+    return formatieren(wert, muster, dezimal, 15);
+}
+
+std::string format_muster(float wert, std::string_view muster, char dezimal) {
+    return formatieren(wert, muster, dezimal, 7);
 }
