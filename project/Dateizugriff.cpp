@@ -39,6 +39,9 @@ void datei_ersetzen(const std::string& pfad, const std::string& inhalt) {
     neu += ".velmaris-neu";
     {
         std::ofstream aus(neu, std::ios::binary | std::ios::trunc);
+        if (!aus.is_open()) {
+            throw Laufzeitfehler(Laufzeitfehler::DateiZugriff, "Cannot create " + neu.string());
+        }
         aus.write(inhalt.data(), static_cast<std::streamsize>(inhalt.size()));
         aus.close();
         if (!aus) {

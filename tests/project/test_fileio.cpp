@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The project life cycle: new, open, save, save as, leave, the prompts and the handled faults.
+#include "project/FILEIO.h"
+#include "project/projektdatei.h"
+#include "tests/project/SkriptDialogs.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Antwort = Dialogs::Antwort;
+
+// The new project's file with some lines replaced (index = line number - 1).
+std::string projektdatei(const Programm& prog,
+                         const std::vector<std::pair<int, std::string>>& zeilen) {
+    std::string text = datei_schreiben(*prog.p);
+    std::vector<std::string> z;
+    for (std::size_t a = 0, e = text.find("\r\n"); e != std::string::npos;
+         a = e + 2, e = text.find("\r\n", a)) {
+        z.push_back(text.substr(a, e - a));
+    }
+    for (const auto& [zeile, wert] : zeilen) {
+        z[static_cast<std::size_t>(zeile - 1)] = wert;
+    }
+    std::string aus;
+    for (const std::string& s : z) {
+        aus += s + "\r\n";
+    }
+    return aus;
+}
+
+} // namespace
+
+TEST(FILEIO, StartBuildsTheNewProjectUnnamed) {
+    Programm prog;
+    EXPECT_EQ(prog.p->Datei, "default.vel");
+    EXPECT_EQ(prog.p->Gestartet, 1);
+    EXPECT_EQ(prog.p->Geaendert, 0);
+    EXPECT_EQ(prog.p->FormLoadGuard, 0);
+    EXPECT_EQ(prog.dialogs.titel, "Velmaris - [unbenannt]");
+    EXPECT_GT(prog.p->qh, 0);
+    Programm englisch("e");
+    EXPECT_EQ(englisch.dialogs.titel, "Velmaris - [no name]");
+}
+
+TEST(FILEIO, OffGridValueSurvivesWhereItsPositionStaysAndIsQuantisedWhereItMoves) {
+    Programm prog;
+    // l_sb stands at 100 (10.0 m): 10.04 m keeps its position. b moves to 123.
+    prog.ordner.schreiben("p.vel", projektdatei(prog, {{2, " 10.04"}, {3, " 12.34"}}));
+    prog.io->datei_oeffnen(prog.pfad("p.vel"));
+    ASSERT_TRUE(prog.dialogs.nachrichten.empty());
+    EXPECT_EQ(prog.p->l, 10.04f);
+    EXPECT_EQ(prog.p->b, 12.3f);
+    EXPECT_EQ(prog.e->geometrie.b_sb.Value(), 123);
+    EXPECT_EQ(prog.p->Geaendert, 0);
+    EXPECT_EQ(prog.p->FormLoadGuard, 0);
+    EXPECT_EQ(prog.dialogs.titel, "Velmaris - P.VEL");
+    EXPECT_EQ(prog.dialogs.erste_ebenen, 1);
+    EXPECT_EQ(prog.p->Datei_offen, 1);
+    EXPECT_EQ(prog.io->offene_datei(), prog.pfad("p.vel"));
+}
+
+TEST(FILEIO, HeatedAtticKeepsTheRoofHeightOfTheFile) {
+    for (const char* hd : {" 1.5", " 1", " 3.3", " 0"}) {
+        Programm prog;
+        prog.ordner.schreiben("d.vel", projektdatei(prog, {{59, " 1"}, {60, "2"}, {61, hd}}));
+        prog.io->datei_oeffnen(prog.pfad("d.vel"));
+        ASSERT_TRUE(prog.dialogs.nachrichten.empty()) << hd;
+        EXPECT_EQ(prog.p->hd, std::stof(hd)) << hd;
+        EXPECT_TRUE(prog.p->Dachgeschoss);
+        EXPECT_EQ(prog.p->Dachfirst, 2);
+        EXPECT_GT(prog.p->Dachneigung, 0.0f - (std::stof(hd) == 0));
+    }
+}
+
+TEST(FILEIO, CancelledPromptKeepsTheProject) {
+    Programm prog;
+    prog.e->geometrie.l_sb.setze(200);
+    ASSERT_EQ(prog.p->Geaendert, 1);
+    prog.dialogs.antworten = {Antwort::Abbrechen};
+    prog.io->datei_neu();
+    EXPECT_FLOAT_EQ(prog.p->l, 20.0f);
+    EXPECT_EQ(prog.p->Geaendert, 1);
+    ASSERT_EQ(prog.dialogs.nachrichten.size(), 1u);
+    EXPECT_EQ(prog.dialogs.nachrichten[0].text,
+              "          Ihr Projekt wurde geändert.\n\nMöchten Sie die Änderungen speichern?");
+    EXPECT_EQ(prog.dialogs.nachrichten[0].titel, "Änderungen speichern ?");
+    EXPECT_EQ(prog.dialogs.nachrichten[0].knoepfe, Dialogs::Knoepfe::JaNeinAbbrechen);
+
+    prog.dialogs.antworten = {Antwort::Nein};
+    prog.io->datei_neu();
+    EXPECT_FLOAT_EQ(prog.p->l, 10.0f);
+    EXPECT_EQ(prog.p->Geaendert, 0);
+}
+
+TEST(FILEIO, EveryOpenFaultIsDateifehler) {
+    Programm prog;
+    prog.io->datei_oeffnen(""); // the dialog is cancelled
+    EXPECT_EQ(prog.dialogs.texte(), std::vector<std::string>{"Dateifehler!"});
+    EXPECT_EQ(prog.dialogs.dialoge[0],
+              "oeffnen Alle Dateien (*.*)|*.*|VELM Dateien (*.vel)|*.vel 2");
+
+    prog.io->datei_oeffnen(prog.pfad("fehlt.vel"));
+    EXPECT_EQ(prog.dialogs.texte().back(), "Dateifehler!");
+
+    prog.e->geometrie.l_sb.setze(300);
+    prog.dialogs.antworten = {Antwort::Abbrechen};
+    prog.io->datei_oeffnen(prog.pfad("fehlt.vel"));
+    EXPECT_EQ(prog.dialogs.texte().back(), "Dateifehler!");
+    EXPECT_FLOAT_EQ(prog.p->l, 30.0f);
+}
+
+TEST(FILEIO, FaultWhileReadingLeavesTheGuardSet) {
+    Programm prog;
+    // 60 m is beyond the length's scroll field.
+    prog.ordner.schreiben("gross.vel", projektdatei(prog, {{2, " 60"}}));
+    prog.io->datei_oeffnen(prog.pfad("gross.vel"));
+    EXPECT_EQ(prog.dialogs.texte(), std::vector<std::string>{"Dateifehler!"});
+    EXPECT_EQ(prog.p->FormLoadGuard, -1);
+    // No recalculation until a new project or a good open.
+    prog.e->ganze_laeufe = 0;
+    prog.e->gebaeude.Troom_sb.setze(190);
+    EXPECT_EQ(prog.e->ganze_laeufe, 0);
+    prog.dialogs.antworten = {Antwort::Nein};
+    prog.io->datei_neu();
+    EXPECT_EQ(prog.p->FormLoadGuard, 0);
+    EXPECT_EQ(prog.e->ganze_laeufe, 1);
+}
+
+TEST(FILEIO, WrongVersionKeepsTheFormerProjectUnnamed) {
+    Programm prog;
+    prog.e->geometrie.l_sb.setze(150);
+    prog.dialogs.antworten = {Antwort::Nein};
+    prog.ordner.schreiben("alt.vel", "Velmaris Version 2.0\r\n 12\r\n");
+    prog.io->datei_oeffnen(prog.pfad("alt.vel"));
+    ASSERT_EQ(prog.dialogs.nachrichten.size(), 2u);
+    EXPECT_EQ(prog.dialogs.nachrichten[1].titel, "Fehler");
+    EXPECT_FLOAT_EQ(prog.p->l, 15.0f);
+    EXPECT_EQ(prog.p->Datei, "default.vel");
+    EXPECT_EQ(prog.p->Datei_offen, 1);
+    EXPECT_EQ(prog.p->FormLoadGuard, 0);
+    EXPECT_EQ(prog.dialogs.titel, "Velmaris - [unbenannt]");
+    EXPECT_EQ(prog.dialogs.erste_ebenen, 0);
+}
+
+TEST(FILEIO, SaveAsAsksAgainAfterNoAndAddsTheExtension) {
+    Programm prog;
+    prog.ordner.schreiben("da.vel", "alt");
+    prog.e->geometrie.l_sb.setze(120);
+    prog.dialogs.dateien = {prog.pfad("da.vel"), prog.pfad("neu")};
+    prog.dialogs.antworten = {Antwort::Nein};
+    ASSERT_TRUE(prog.io->datei_speichern());
+    ASSERT_EQ(prog.dialogs.nachrichten.size(), 1u);
+    EXPECT_EQ(prog.dialogs.nachrichten[0].text,
+              prog.pfad("da.vel") +
+                  "\nDiese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?");
+    EXPECT_TRUE(prog.dialogs.nachrichten[0].standard_nein);
+    EXPECT_EQ(prog.zeilen(prog.pfad("da.vel")), std::vector<std::string>{"alt"});
+    EXPECT_EQ(prog.p->Datei, prog.pfad("neu.vel"));
+    EXPECT_EQ(prog.zeilen(prog.pfad("neu.vel")).size(), 69u);
+    EXPECT_EQ(prog.p->Geaendert, 0);
+    EXPECT_EQ(prog.p->Datei_offen, 1);
+    EXPECT_EQ(prog.dialogs.titel, "Velmaris - NEU.VEL");
+
+    // Now named: a plain save writes there without a dialog.
+    prog.e->geometrie.l_sb.setze(130);
+    ASSERT_TRUE(prog.io->datei_speichern());
+    EXPECT_EQ(prog.dialogs.dialoge.size(), 2u);
+    EXPECT_EQ(prog.zeilen(prog.pfad("neu.vel"))[1], " 13");
+
+    // A name with a point in it keeps its form; Yes replaces the file.
+    prog.dialogs.dateien = {prog.pfad("da.vel")};
+    prog.dialogs.antworten = {Antwort::Ja};
+    ASSERT_TRUE(prog.io->datei_speichern_unter());
+    EXPECT_EQ(prog.zeilen(prog.pfad("da.vel")).size(), 69u);
+    prog.dialogs.dateien = {prog.pfad("x.txt")};
+    ASSERT_TRUE(prog.io->datei_speichern_unter());
+    EXPECT_TRUE(fs::exists(prog.pfad("x.txt")));
+}
+
+TEST(FILEIO, CancelledSaveAsChangesNothing) {
+    Programm prog;
+    prog.e->geometrie.l_sb.setze(120);
+    EXPECT_TRUE(prog.io->datei_speichern_unter());
+    EXPECT_EQ(prog.p->Datei, "default.vel");
+    EXPECT_EQ(prog.p->Geaendert, 1);
+    EXPECT_TRUE(prog.dialogs.nachrichten.empty());
+}
+
+TEST(FILEIO, FailedSaveLeavesTheFormerFileWhole) {
+    Programm prog;
+    prog.dialogs.dateien = {prog.pfad("p.vel")};
+    ASSERT_TRUE(prog.io->datei_speichern_unter());
+    const auto vorher = prog.zeilen(prog.pfad("p.vel"));
+    // The place of the new file is taken: writing it fails.
+    fs::create_directory(prog.pfad("p.vel.velmaris-neu"));
+    prog.e->geometrie.l_sb.setze(250);
+    EXPECT_FALSE(prog.io->datei_speichern());
+    EXPECT_EQ(prog.dialogs.texte().back(), "Dateifehler!");
+    EXPECT_EQ(prog.zeilen(prog.pfad("p.vel")), vorher);
+    EXPECT_EQ(prog.p->Geaendert, 1);
+    // A failed save in the prompt stops the new project.
+    prog.dialogs.antworten = {Antwort::Ja};
+    prog.io->datei_neu();
+    EXPECT_FLOAT_EQ(prog.p->l, 25.0f);
+    fs::remove(prog.pfad("p.vel.velmaris-neu"));
+    ASSERT_TRUE(prog.io->datei_speichern());
+    EXPECT_EQ(prog.zeilen(prog.pfad("p.vel"))[1], " 25");
+    EXPECT_FALSE(fs::exists(prog.pfad("p.vel.velmaris-neu")));
+}
+
+TEST(FILEIO, OpenWithYesSavesUnderTheCurrentName) {
+    Programm prog;
+    prog.dialogs.dateien = {prog.pfad("a.vel")};
+    ASSERT_TRUE(prog.io->datei_speichern_unter());
+    prog.ordner.schreiben("b.vel", projektdatei(prog, {{2, " 44"}}));
+    prog.e->geometrie.l_sb.setze(110);
+    prog.dialogs.antworten = {Antwort::Ja};
+    prog.io->datei_oeffnen(prog.pfad("b.vel"));
+    EXPECT_EQ(prog.zeilen(prog.pfad("a.vel"))[1], " 11");
+    EXPECT_FLOAT_EQ(prog.p->l, 44.0f);
+    EXPECT_EQ(prog.io->offene_datei(), prog.pfad("b.vel"));
+}
+
+TEST(FILEIO, LeavingAsksOnlyAfterAChange) {
+    Programm prog;
+    EXPECT_TRUE(prog.io->programm_beenden());
+    EXPECT_TRUE(prog.dialogs.nachrichten.empty());
+    EXPECT_EQ(prog.io->aenderung_abfragen(), 0);
+
+    prog.dialogs.dateien = {prog.pfad("a.vel")};
+    ASSERT_TRUE(prog.io->datei_speichern_unter());
+    prog.e->geometrie.l_sb.setze(110);
+    prog.dialogs.antworten = {Antwort::Abbrechen, Antwort::Abbrechen, Antwort::Nein};
+    EXPECT_FALSE(prog.io->programm_beenden());
+    EXPECT_EQ(prog.io->aenderung_abfragen(), 1);
+    EXPECT_EQ(prog.io->aenderung_abfragen(), 0);
+    // Yes asks for a name even for a named project.
+    prog.dialogs.antworten = {Antwort::Ja};
+    prog.dialogs.dateien = {prog.pfad("b.vel")};
+    EXPECT_TRUE(prog.io->programm_beenden());
+    EXPECT_EQ(prog.dialogs.dialoge.back(), "speichern VELM Dateien (*.vel)|*.vel 1");
+    EXPECT_TRUE(fs::exists(prog.pfad("b.vel")));
+    EXPECT_EQ(prog.p->Datei_offen, 0);
+}
+
+TEST(FILEIO, CommandLine) {
+    EXPECT_EQ(projekt_aus_befehlszeile("\"C:\\Proj\\Haus.VEL\""), "c:\\proj\\haus.vel");
+    EXPECT_EQ(projekt_aus_befehlszeile("/tmp/Haus.vel"), "/tmp/haus.vel");
+    EXPECT_EQ(projekt_aus_befehlszeile(".vel"), "");
+    EXPECT_EQ(projekt_aus_befehlszeile("e"), "");
+    EXPECT_EQ(initdir_aus_befehlszeile("e", "/prog"), "/prog");
+    EXPECT_EQ(initdir_aus_befehlszeile("x|/a|/daten", "/prog"), "/daten");
+    EXPECT_EQ(initdir_aus_befehlszeile("/daten", "/prog"), "/daten");
+
+    Programm prog;
+    prog.ordner.schreiben("haus.vel", projektdatei(prog, {{3, " 14"}}));
+    Programm zweites;
+    zweites.io->start("\"" + prog.pfad("haus.vel") + "\"", "/prog");
+    EXPECT_FLOAT_EQ(zweites.p->b, 14.0f);
+    EXPECT_EQ(zweites.dialogs.titel, "Velmaris - HAUS.VEL");
+    EXPECT_EQ(zweites.p->AppPfad, "/prog");
+}
