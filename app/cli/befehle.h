@@ -10,7 +10,15 @@
 
 // calc --new [--klima DIR] [--hourly]: the new project on the default station, recalculated
 // once, printed as one JSON object.
+// calc PROJECT.vel [--klima DIR] [--sprache d|e] [--hourly]: a fresh start, then the project
+// opened as the desktop opens it, printed the same way. Status 3 for a wrong version line, 2 for
+// any other fault of the file ("Dateifehler!").
 int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler);
+
+// save OUT.vel [--from PROJECT.vel] [--klima DIR]: the new project, or the one opened, written
+// by the desktop's save as (a 3.0 file comes out as 3.2). Status 2 for a fault, 3 for a wrong
+// version line of the source.
+int befehl_save(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler);
 
 // import SOURCE --name NAME [--ort ..] [--land ..] [--format ..] ...: a climate source converted
 // into the station file NAME.met of the klima folder; the messages of the import on the terminal.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/cli/befehle.h"
+#include "app/cli/cli_programm.h"
 #include "app/cli/ergebnis_json.h"
 #include "app/cli/pfade.h"
 #include "calc/c_mod.h"
@@ -10,6 +11,7 @@
 int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler) {
     bool neu = false, stunden = false;
     std::string klima = datenordner("klima");
+    std::string datei, sprache;
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (args[i] == "--new") {
             neu = true;
@@ -17,14 +19,30 @@ int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::os
             stunden = true;
         } else if (args[i] == "--klima" && i + 1 < args.size()) {
             klima = args[++i];
+        } else if (args[i] == "--sprache" && i + 1 < args.size() &&
+                   (args[i + 1] == "d" || args[i + 1] == "e")) {
+            sprache = args[++i];
+        } else if (datei.empty() && !args[i].empty() && args[i][0] != '-') {
+            datei = args[i];
         } else {
             fehler << "velmaris-cli calc: unexpected argument \"" << args[i] << "\"\n";
             return 1;
         }
     }
-    if (!neu) {
-        fehler << "usage: velmaris-cli calc --new [--klima DIR] [--hourly]\n";
+    if (neu == !datei.empty()) {
+        fehler << "usage: velmaris-cli calc (--new | PROJECT.vel [--sprache d|e]) [--klima DIR] "
+                  "[--hourly]\n";
         return 1;
+    }
+    if (!datei.empty()) {
+        // A fresh start as the desktop's, then the project opened by the menu's own code.
+        KonsolenProgramm programm(klima, sprache);
+        const int status = programm.oeffnen(datei, fehler);
+        if (status != 0) {
+            return status;
+        }
+        aus << ergebnis_json(programm.p, stunden) << "\n";
+        return 0;
     }
 
     Projekt& p = projekt();

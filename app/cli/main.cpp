@@ -12,6 +12,10 @@ namespace {
 void hilfe(std::ostream& aus) {
     aus << "usage: velmaris-cli COMMAND ...\n"
            "  calc --new [--klima DIR] [--hourly]   recalculate the new project, print JSON\n"
+           "  calc PROJECT.vel [--klima DIR] [--sprache d|e] [--hourly]\n"
+           "                                        open a project, recalculate, print JSON\n"
+           "  save OUT.vel [--from PROJECT.vel] [--klima DIR]\n"
+           "                                        write the new or the opened project\n"
            "  import SOURCE --name NAME ...          convert climate data into a station file\n";
 }
 
@@ -27,6 +31,9 @@ int main(int argc, char** argv) {
     try {
         if (args[0] == "calc") {
             return befehl_calc(rest, std::cout, std::cerr);
+        }
+        if (args[0] == "save") {
+            return befehl_save(rest, std::cout, std::cerr);
         }
         if (args[0] == "import") {
             return befehl_import(rest, std::cout, std::cerr);

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/cli/cli_programm.h"
+
+#include "app/cli/pfade.h"
+#include "language/c_Sprache.h"
+#include "project/c_glob.h"
+
+Dialogs::Antwort KonsolenDialogs::nachricht(const std::string& text, const std::string& t, Symbol,
+                                            Knoepfe knoepfe, bool) {
+    texte.push_back(text);
+    titel.push_back(t);
+    return knoepfe == Knoepfe::OK ? Antwort::OK : Antwort::Ja;
+}
+
+std::optional<std::string> KonsolenDialogs::speichern_dialog(const std::string&, int,
+                                                             const std::string&) {
+    std::optional<std::string> name = speichern_als;
+    speichern_als.reset();
+    return name;
+}
+
+KonsolenProgramm::KonsolenProgramm(const std::string& klima, const std::string& sprache)
+    : p(projekt()) {
+    p.KlimaOrdner = klima;
+    // Without a language file and without a choice the run speaks German.
+    sprache_beim_start(p, sprache, [] { return std::string(); });
+    if (p.Sprache.empty()) {
+        p.Sprache = "d";
+        sprachtexte_setzen(p);
+    }
+    ebenen = std::make_unique<Eingabeflaechen>(p);
+    io = std::make_unique<FILEIO>(p, *ebenen, dialogs);
+    io->start(std::string(), programmordner());
+}
+
+int KonsolenProgramm::oeffnen(const std::string& pfad, std::ostream& fehler) {
+    const std::size_t vorher = dialogs.texte.size();
+    io->datei_oeffnen(pfad);
+    for (std::size_t i = vorher; i < dialogs.texte.size(); ++i) {
+        std::string text = dialogs.texte[i];
+        for (std::size_t cr = text.find('\r'); cr != std::string::npos; cr = text.find('\r')) {
+            text.erase(cr, 1);
+        }
+        fehler << text << "\n";
+        return dialogs.titel[i] == "Fehler" ? 3 : 2;
+    }
+    return 0;
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/cli/befehle.h"
+#include "app/cli/cli_programm.h"
+#include "app/cli/pfade.h"
+#include "project/c_glob.h"
+
+int befehl_save(const std::vector<std::string>& args, std::ostream&, std::ostream& fehler) {
+    std::string ziel, quelle;
+    std::string klima = datenordner("klima");
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i] == "--from" && i + 1 < args.size()) {
+            quelle = args[++i];
+        } else if (args[i] == "--klima" && i + 1 < args.size()) {
+            klima = args[++i];
+        } else if (ziel.empty() && !args[i].empty() && args[i][0] != '-') {
+            ziel = args[i];
+        } else {
+            fehler << "velmaris-cli save: unexpected argument \"" << args[i] << "\"\n";
+            return 1;
+        }
+    }
+    if (ziel.empty()) {
+        fehler << "usage: velmaris-cli save OUT.vel [--from PROJECT.vel] [--klima DIR]\n";
+        return 1;
+    }
+    KonsolenProgramm programm(klima, std::string());
+    if (!quelle.empty()) {
+        const int status = programm.oeffnen(quelle, fehler);
+        if (status != 0) {
+            return status;
+        }
+    }
+    // The menu's save as, with the name given and an existing file replaced.
+    programm.dialogs.speichern_als = ziel;
+    if (!programm.io->datei_speichern_unter()) {
+        fehler << programm.dialogs.texte.back() << "\n";
+        return 2;
+    }
+    return 0;
+}
