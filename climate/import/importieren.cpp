@@ -117,15 +117,21 @@ bool spalten_lesen(const Klimaimport& f, std::string_view text, const std::strin
 
     const std::vector<std::string_view> zeilen = zeilen_teilen(text);
     const std::size_t kopf = kopfzeilen(f);
+    // The blank modes take their column positions from the first line behind the head, as the
+    // preview does.
+    Klimaimport g = f;
+    if (g.Datentrennung != 0) {
+        Spalten_Festlegen(g, kopf < zeilen.size() ? zeilen[kopf] : std::string_view());
+    }
     int erste_falsche = 0;
     int zeilenzahl = 0;
     stunden.clear();
     for (std::size_t i = kopf; i < zeilen.size() && zeilenzahl < JAHRESSTUNDEN; ++i) {
         ++zeilenzahl;
         Quellstunde s;
-        const bool gut = spaltenwert(f, zeilen[i], temperatur, s.Ta) &
-                         spaltenwert(f, zeilen[i], strahlung, s.G_Gh) &
-                         spaltenwert(f, zeilen[i], diffus, s.G_Dh);
+        const bool gut = spaltenwert(g, zeilen[i], temperatur, s.Ta) &&
+                         spaltenwert(g, zeilen[i], strahlung, s.G_Gh) &&
+                         spaltenwert(g, zeilen[i], diffus, s.G_Dh);
         if (!gut && erste_falsche == 0) {
             erste_falsche = zeilenzahl;
         }
@@ -189,10 +195,11 @@ bool quelle_kopf_lesen(Klimaimport& f) {
     std::string text;
     Quelldaten daten;
     Quellfehler fehler;
-    if (f.Format == Quellformat::spalten || !datei_lesen(f.DateinameBox, text) ||
-        !quelle_lesen(f.Format, text, daten, fehler)) {
+    if (f.Format == Quellformat::spalten || !datei_lesen(f.DateinameBox, text)) {
         return false;
     }
+    // A fault among the hours still leaves the head; the import names the fault later.
+    quelle_lesen(f.Format, text, daten, fehler);
     kopf_uebernehmen(f, daten);
     return true;
 }

@@ -38,7 +38,7 @@ bool quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei)
 
 // Fills place, country, coordinates and zone from the head of a source that f.Format reads by
 // its own rules (the fields keep what the source does not give). False when the file cannot be
-// read or its head is not of that format.
+// read or f.Format is `spalten`.
 bool quelle_kopf_lesen(Klimaimport& f);
 
 // Whether the import may start: a source, place and country are given and head lines, latitude,

@@ -216,6 +216,8 @@ bool quelle_lesen(Quellformat format, std::string_view text, Quelldaten& daten,
         }
     } catch (const Lesefehler& f) {
         fehler = {f.zeile, f.what(), f.zu_wenig};
+        d.stunden.clear();
+        daten = std::move(d);
         return false;
     }
     daten = std::move(d);

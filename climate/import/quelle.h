@@ -47,7 +47,8 @@ struct Quellfehler {
 Quellformat format_erkennen(const std::vector<std::string_view>& zeilen);
 
 // Reads a source of a known format (not `spalten`). True with `daten` filled, or false with
-// `fehler` set; never more than the text holds.
+// `fehler` set and `daten` holding what the head gave before the fault (no hours); never more
+// than the text holds.
 bool quelle_lesen(Quellformat format, std::string_view text, Quelldaten& daten,
                   Quellfehler& fehler);
 

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The import of a column text as the user runs it: the column checks and their order, the test
+// pass, the default name, the name and overwrite questions and the written file.
+#include "climate/import/importieren.h"
+#include "climate/klimadatei.h"
+#include "tests/import/Importhilfe.h"
+#include "tests/support/Testprojekt.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace {
+
+std::string lesen(const std::filesystem::path& pfad) {
+    std::ifstream datei(pfad, std::ios::binary);
+    std::ostringstream inhalt;
+    inhalt << datei.rdbuf();
+    return inhalt.str();
+}
+
+// A tab-separated source of `zeilen` hours after two head lines: hour, Ta, total, direct,
+// diffuse.
+std::string quelle(int zeilen) {
+    return spaltentext(2, zeilen, [](int i) {
+        return std::to_string(i) + "\t" + std::to_string(i % 30 - 10) + ".25\t" +
+               std::to_string(i % 7 * 100) + "\t" + std::to_string(i % 7 * 10) + "\t" +
+               std::to_string(i % 7 * 20) + ".5";
+    });
+}
+
+// The window after opening `pfad` and choosing the columns.
+Klimaimport fenster(const std::filesystem::path& pfad) {
+    Klimaimport f;
+    std::string Datei;
+    EXPECT_TRUE(quelle_oeffnen(f, pfad.string(), Datei));
+    EXPECT_EQ(Datei, pfad.string()) << "the project's file name becomes the source's";
+    f.Kopfzeilen = "2";
+    f.Standortname = "Teststadt";
+    f.Land = "Testland";
+    f.Breitengrad = "50";
+    f.Laengengrad = "8";
+    f.Zeitzone = "1";
+    f.Spaltenbelegung[2] = SPALTE_TEMPERATUR;
+    f.Spaltenbelegung[3] = SPALTE_GESAMT;
+    f.Spaltenbelegung[5] = SPALTE_DIFFUS;
+    return f;
+}
+
+} // namespace
+
+TEST(Import, TooFewRowsAreRefusedInBothLanguages) {
+    TempOrdner ordner;
+    const Klimaimport f = fenster(ordner.schreiben("kurz.txt", quelle(8759)));
+    Skriptnutzer nutzer;
+    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer).ausgang,
+              Importausgang::fehler);
+    ASSERT_EQ(nutzer.meldungen.size(), 1u);
+    EXPECT_EQ(nutzer.meldungen[0].titel, "Fehler");
+    EXPECT_EQ(nutzer.meldungen[0].text,
+              "Fehler! - Zu wenig Daten. Benötigt werden 8760 Stundenwerte!");
+    Skriptnutzer user;
+    klimadaten_importieren(f, ordner.pfad().string(), "e", user);
+    ASSERT_EQ(user.meldungen.size(), 1u);
+    EXPECT_EQ(user.meldungen[0].text, "Error! - Not enough data. 8760 hourly data is needed!");
+    EXPECT_FALSE(std::filesystem::exists(ordner.pfad() / "neu.met"));
+}
+
+TEST(Import, MoreRowsThanAYearUseTheFirst8760) {
+    TempOrdner ordner;
+    const Klimaimport f = fenster(ordner.schreiben("lang.txt", quelle(8761)));
+    Skriptnutzer nutzer;
+    const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
+    ASSERT_EQ(nutzer.meldungen.size(), 1u);
+    EXPECT_EQ(nutzer.meldungen[0].text,
+              "Klimadatenimport beendet! Biite starten Sie Velmaris neu, um die gerade "
+              "importierten Daten verwenden zu können.");
+    const std::vector<std::string> z = crlf_zeilen(lesen(e.pfad));
+    ASSERT_EQ(z.size(), 8766u);
+    EXPECT_EQ(z[0], "Teststadt (Testland)");
+    EXPECT_EQ(z[3], "Zeitzone:     -1");
+    // Source row 0: Ta -10.25 (halves to even), total 0, diffuse 0.5; the writer keeps the order.
+    EXPECT_EQ(z[6], "    1-10.2    0   .5");
+    // Source row 1: Ta -9.25, total 100, diffuse 20.5.
+    EXPECT_EQ(z[7], "    1 -9.2  100 20.5");
+    // Source row 8759 is the last written; row 8760 is not.
+    EXPECT_EQ(z[8765], "  365 19.2  200 40.5");
+}
+
+TEST(Import, TotalColumnBeatsDirectColumn) {
+    TempOrdner ordner;
+    Klimaimport f = fenster(ordner.schreiben("q.txt", quelle(8760)));
+    f.Spaltenbelegung[4] = SPALTE_DIREKT;
+    Skriptnutzer nutzer;
+    const Importergebnis mit_gesamt =
+        klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    ASSERT_EQ(mit_gesamt.ausgang, Importausgang::geschrieben);
+    EXPECT_EQ(crlf_zeilen(lesen(mit_gesamt.pfad))[8], "    1 -8.2  200 40.5");
+
+    // Without the total, direct + diffuse: 20 + 40.5 rounds to 60 (halves to even).
+    f.Spaltenbelegung[3] = SPALTE_UNBENUTZT;
+    nutzer.name = "direkt";
+    const Importergebnis ohne = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    ASSERT_EQ(ohne.ausgang, Importausgang::geschrieben);
+    EXPECT_EQ(crlf_zeilen(lesen(ohne.pfad))[8], "    1 -8.2   60 40.5");
+}
+
+TEST(Import, MissingColumnsAreNamedInTheirOrder) {
+    TempOrdner ordner;
+    Klimaimport f = fenster(ordner.schreiben("q.txt", quelle(8760)));
+    f.Spaltenbelegung.fill(SPALTE_UNBENUTZT);
+    f.Spaltenbelegung[5] = SPALTE_DIFFUS;
+    Skriptnutzer nutzer;
+    klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    f.Spaltenbelegung[4] = SPALTE_DIREKT;
+    klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer);
+    f.Spaltenbelegung[2] = SPALTE_TEMPERATUR;
+    f.Spaltenbelegung[5] = SPALTE_UNBENUTZT;
+    klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer);
+    ASSERT_EQ(nutzer.meldungen.size(), 3u);
+    EXPECT_EQ(nutzer.meldungen[0].text,
+              "Benötigt werden entweder Daten zur Gestamt- oder zur Direktstrahlung");
+    EXPECT_EQ(nutzer.meldungen[1].text, "No temperature values found!");
+    EXPECT_EQ(nutzer.meldungen[2].text, "No data for diffuse rediation!");
+    EXPECT_EQ(nutzer.meldungen[2].titel, "Error");
+}
+
+TEST(Import, BadValueNamesTheFileLine) {
+    TempOrdner ordner;
+    std::string text = quelle(8760);
+    // Data row 5 (file line 7) gets a text in the total column; row 9 one as well.
+    const std::vector<std::string> z = crlf_zeilen(text);
+    text.clear();
+    for (std::size_t i = 0; i < z.size(); ++i) {
+        text += (i == 6 || i == 10 ? "4\t1.0\tn/a\t0\t0" : z[i]) + "\r\n";
+    }
+    const Klimaimport f = fenster(ordner.schreiben("q.txt", text));
+    Skriptnutzer nutzer;
+    klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    Skriptnutzer user;
+    klimadaten_importieren(f, ordner.pfad().string(), "e", user);
+    ASSERT_EQ(nutzer.meldungen.size(), 1u);
+    EXPECT_EQ(nutzer.meldungen[0].text, "Fehler in Zeile 7\r\nKlimadatenimport wurde abgebrochen!");
+    EXPECT_EQ(user.meldungen[0].text, "Error in line 7\r\nImport has been aborted!");
+}
+
+TEST(Import, NameQuestionAndOverwrite) {
+    TempOrdner ordner;
+    const Klimaimport f = fenster(ordner.schreiben("Messung.2019.txt", quelle(8760)));
+    Skriptnutzer nutzer;
+    nutzer.name = "";
+    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer).ausgang,
+              Importausgang::abgebrochen);
+    EXPECT_TRUE(nutzer.meldungen.empty()) << "an empty name ends silently";
+    EXPECT_EQ(nutzer.eingabe_vorgabe, "Messung.2019");
+    EXPECT_EQ(nutzer.eingabe_titel, "Klimadatensatz speichern unter ...");
+    EXPECT_EQ(nutzer.eingabe_text,
+              "Bitte geben Sie einen (beliebigen) Dateinamen ein, unter dem der neue "
+              "Klimadatensatz 'Teststadt (Testland)' gespeichert werden soll:");
+
+    const std::filesystem::path vorhanden = ordner.schreiben("alt.met", "alt");
+    nutzer.name = "alt";
+    nutzer.ueberschreiben = false;
+    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer).ausgang,
+              Importausgang::abgebrochen);
+    ASSERT_EQ(nutzer.fragen.size(), 1u);
+    EXPECT_EQ(nutzer.fragen[0], "This filename already exists. Should the data set, saved under "
+                                "this filename, be overwritten?");
+    EXPECT_EQ(lesen(vorhanden), "alt");
+
+    nutzer.ueberschreiben = true;
+    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer).ausgang,
+              Importausgang::geschrieben);
+    EXPECT_EQ(crlf_zeilen(lesen(vorhanden)).size(), 8766u);
+    EXPECT_EQ(nutzer.meldungen.back().text,
+              "Import finished. Please re-start Velmaris to use the new imported data.");
+}
+
+TEST(Import, DefaultName) {
+    EXPECT_EQ(standardname("C:\\Daten\\Klima\\bern.dat"), "bern");
+    EXPECT_EQ(standardname("/home/a/trier.2019.csv"), "trier.2019");
+    EXPECT_EQ(standardname("ohne_endung"), "ohne_endung");
+    EXPECT_EQ(standardname("D:x.y.z"), "x.y");
+}
+
+TEST(Import, AllInputsMustBeGiven) {
+    TempOrdner ordner;
+    Klimaimport f = fenster(ordner.schreiben("q.txt", quelle(10)));
+    EXPECT_TRUE(AlleEingabenTesten(f));
+    Klimaimport ohne_land = f;
+    ohne_land.Land.clear();
+    EXPECT_FALSE(AlleEingabenTesten(ohne_land));
+    Klimaimport falsche_zone = f;
+    falsche_zone.Zeitzone = "eins";
+    EXPECT_FALSE(AlleEingabenTesten(falsche_zone));
+    Klimaimport komma = f;
+    komma.Breitengrad = "49,5";
+    EXPECT_FALSE(AlleEingabenTesten(komma));
+    komma.Dezimalzeichen = 1;
+    EXPECT_TRUE(AlleEingabenTesten(komma));
+}
+
+TEST(Import, BlankSeparatedRightAlignedSource) {
+    TempOrdner ordner;
+    const std::string text = spaltentext(1, 8760, [](int i) {
+        char zeile[64];
+        std::snprintf(zeile, sizeof zeile, "%6d%7.1f%6d%7.1f", i, -0.4, i % 5 * 100, 12.0);
+        return std::string(zeile);
+    });
+    Klimaimport f = fenster(ordner.schreiben("rechts.txt", text));
+    f.Kopfzeilen = "1";
+    f.Datentrennung = 2;
+    f.Spaltenbelegung.fill(SPALTE_UNBENUTZT);
+    f.Spaltenbelegung[2] = SPALTE_TEMPERATUR;
+    f.Spaltenbelegung[3] = SPALTE_GESAMT;
+    f.Spaltenbelegung[4] = SPALTE_DIFFUS;
+    Skriptnutzer nutzer;
+    const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
+    const std::vector<std::string> z = crlf_zeilen(lesen(e.pfad));
+    EXPECT_EQ(z[7], "    1 -0.4  100   12") << "-0.4 keeps its zero, five wide";
+}
+
+TEST(Import, MeteonormSourceIsFilledInOnOpening) {
+    TempOrdner ordner;
+    std::string text =
+        "\"Davos\"\r\n46.8,-9.83,1594,-1\r\nMeteonorm\r\nm\tdy\th\tTa\tG_Gh\tG_Dh\r\n";
+    for (int i = 0; i < 8760; ++i) {
+        text += "1\t1\t1\t-3.5\t0\t0\r\n";
+    }
+    const std::filesystem::path pfad = ordner.schreiben("davos.dat", text);
+    Klimaimport f;
+    std::string Datei;
+    ASSERT_TRUE(quelle_oeffnen(f, pfad.string(), Datei));
+    EXPECT_EQ(f.Standortname, "Davos");
+    EXPECT_EQ(f.Kopfzeilen, "4");
+    EXPECT_NE(f.Dateiansicht.find("\"Davos\"\r\n46.8"), std::string::npos);
+    EXPECT_EQ(f.Dateiansicht.substr(f.Dateiansicht.size() - 3), "...") << "250 lines shown";
+    f.Land = "Schweiz";
+    Skriptnutzer nutzer;
+    const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
+    EXPECT_EQ(nutzer.eingabe_vorgabe, "davos");
+    const std::vector<std::string> z = crlf_zeilen(lesen(e.pfad));
+    EXPECT_EQ(z[1], "Breitengrad:   46.8");
+    EXPECT_EQ(z[2], "L\xE4ngengrad:    9.83");
+    EXPECT_EQ(z[3], "Zeitzone:     -1");
+    EXPECT_EQ(z[6], "    1 -3.5    0    0");
+}
+
+TEST(Import, UnreadableSourceIsAMessage) {
+    Klimaimport f;
+    std::string Datei = "projekt.vel";
+    EXPECT_FALSE(quelle_oeffnen(f, "/nicht/vorhanden.txt", Datei));
+    EXPECT_EQ(Datei, "projekt.vel");
+    f.DateinameBox = "/nicht/vorhanden.txt";
+    Skriptnutzer nutzer;
+    EXPECT_EQ(klimadaten_importieren(f, "/tmp", "e", nutzer).ausgang, Importausgang::fehler);
+    ASSERT_EQ(nutzer.meldungen.size(), 1u);
+    EXPECT_EQ(nutzer.meldungen[0].text, "The file \"/nicht/vorhanden.txt\" cannot be read.");
+}

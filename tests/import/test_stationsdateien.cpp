@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The delivered station files of klima/: each one reads, has a plausible climate, says where its
+// data come from, and is exactly what the writer makes of its own values.
+#include "climate/import/stationsschreiber.h"
+#include "climate/klimadatei.h"
+#include "climate/numerisch.h"
+#include "project/c_glob.h"
+#include "tests/import/Importhilfe.h"
+#include "tests/support/Testprojekt.h"
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <set>
+#include <sstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const fs::path KLIMA = fs::path(VELMARIS_SOURCE_DIR) / "klima";
+
+std::vector<std::string> stationsdateien() {
+    std::vector<std::string> namen;
+    for (const auto& eintrag : fs::directory_iterator(KLIMA)) {
+        if (eintrag.path().extension() == ".met") {
+            namen.push_back(eintrag.path().filename().string());
+        }
+    }
+    std::sort(namen.begin(), namen.end());
+    return namen;
+}
+
+std::string lesen(const fs::path& pfad) {
+    std::ifstream datei(pfad, std::ios::binary);
+    std::ostringstream inhalt;
+    inhalt << datei.rdbuf();
+    return inhalt.str();
+}
+
+} // namespace
+
+TEST(Stationsdateien, EveryRegionHasItsFile) {
+    auto p = leeres_projekt();
+    neues_projekt(*p);
+    for (int i = 1; i <= 12; ++i) {
+        EXPECT_TRUE(fs::exists(KLIMA / p->Regionsdatei[i])) << p->Regionsdatei[i];
+    }
+    EXPECT_GE(stationsdateien().size(), 60u);
+}
+
+TEST(Stationsdateien, ReadWithAPlausibleClimate) {
+    for (const std::string& name : stationsdateien()) {
+        SCOPED_TRACE(name);
+        auto p = leeres_projekt();
+        p->KlimaOrdner = KLIMA.string();
+        p->Klimadatei = name;
+        ASSERT_NO_THROW(klimadatei_lesen(*p));
+        double jahr = 0, diffus = 0;
+        for (int m = 1; m <= 12; ++m) {
+            EXPECT_GT(p->Monat[m].Tmittel, -30);
+            EXPECT_LT(p->Monat[m].Tmittel, 40);
+            EXPECT_GE(p->Monat[m].Strahlung_S, 0);
+            EXPECT_GE(p->Monat[m].Strahlung_N, 0);
+            EXPECT_LT(p->Monat[m].Strahlung_S, 1000) << "MJ/m² in a month";
+            jahr += p->Monat[m].Tmittel;
+            for (int d = 1; d <= p->Monat[m].Tage; ++d) {
+                for (int h = 1; h <= 24; ++h) {
+                    diffus += p->Wetter(m, d, h).Diffus;
+                }
+            }
+        }
+        EXPECT_GT(jahr / 12, -15);
+        EXPECT_LT(jahr / 12, 30);
+        // Diffuse radiation of a year, kWh/m²: every climate has a few hundred.
+        EXPECT_GT(diffus / 1000, 250);
+        EXPECT_LT(diffus / 1000, 1200);
+        // Facades facing the sun get more than the north facade over the year.
+        int sued = 0, nord = 0;
+        for (int m = 1; m <= 12; ++m) {
+            sued += p->Monat[m].Strahlung_S;
+            nord += p->Monat[m].Strahlung_N;
+        }
+        const bool suedhalbkugel = p->Breite < 0;
+        EXPECT_GT(suedhalbkugel ? nord : sued, suedhalbkugel ? sued : nord);
+    }
+}
+
+TEST(Stationsdateien, WrittenExactlyAsTheWriterWritesTheirValues) {
+    for (const std::string& name : stationsdateien()) {
+        SCOPED_TRACE(name);
+        const std::string text = lesen(KLIMA / name);
+        const std::vector<std::string> z = crlf_zeilen(text);
+        ASSERT_EQ(z.size(), 8766u);
+        // Line 1 "place (country)" without a comma, so that the station lists take it whole.
+        EXPECT_EQ(z[0].find(','), std::string::npos);
+        ASSERT_GE(z[0].size(), 4u);
+        EXPECT_EQ(z[0].back(), ')');
+        const std::size_t klammer = z[0].rfind(" (");
+        ASSERT_NE(klammer, std::string::npos);
+
+        Klimaimport f;
+        f.Standortname = z[0].substr(0, klammer);
+        f.Land = z[0].substr(klammer + 2, z[0].size() - klammer - 3);
+        const double breite = numerisch_lesen(spalten(z[1], 15, 24));
+        const double laenge = numerisch_lesen(spalten(z[2], 15, 24));
+        const double zone = numerisch_lesen(spalten(z[3], 15, 24));
+        f.Breitengrad = std::to_string(std::fabs(breite));
+        f.Breitezusatz = breite < 0 ? 1 : 0;
+        f.Laengengrad = std::to_string(std::fabs(laenge));
+        f.Laengezusatz = laenge > 0 ? 1 : 0;
+        f.Zeitzone = std::to_string(std::fabs(zone));
+        f.GMT = zone > 0 ? 1 : 0;
+        const std::vector<std::string> kopf = crlf_zeilen(stationskopf(f));
+        EXPECT_EQ(kopf[0], z[0]);
+        for (std::size_t i = 1; i <= 5; ++i) {
+            EXPECT_EQ(kopf[i], z[i]) << "line " << i + 1;
+        }
+        EXPECT_EQ(z[5], "   dy   Ta G_Gh G_Dh");
+
+        // Every row from its own values, the diffuse field read to its end.
+        for (int i = 0; i < 8760; ++i) {
+            const std::string& zeile = z[static_cast<std::size_t>(6 + i)];
+            const Quellstunde s{
+                numerisch_lesen(spalten(zeile, 6, 10)), numerisch_lesen(spalten(zeile, 11, 15)),
+                numerisch_lesen(zeile.substr(std::min<std::size_t>(15, zeile.size())))};
+            ASSERT_EQ(stationszeile(i, s, false), zeile + "\r\n") << "row " << i;
+        }
+    }
+}
+
+TEST(Stationsdateien, RegionFilesSayWhoseDataTheyCarry) {
+    const std::string passau = crlf_zeilen(lesen(KLIMA / "passau.met"))[0];
+    EXPECT_EQ(passau.find("Braunlage"), 0u);
+    EXPECT_NE(passau.find("Klimaregion 11"), std::string::npos);
+    // münchen.met and konstanz.met carry the same data and both say so.
+    const std::string muenchen = lesen(KLIMA / "m\xC3\xBC"
+                                               "nchen.met");
+    const std::string konstanz = lesen(KLIMA / "konstanz.met");
+    EXPECT_EQ(muenchen, konstanz);
+    EXPECT_NE(crlf_zeilen(konstanz)[0].find("9 und 12"), std::string::npos);
+    // Station files are Windows-1252: the label of line 3 has the byte 0xE4.
+    EXPECT_EQ(crlf_zeilen(konstanz)[2].substr(0, 14), "L\xE4ngengrad:   ");
+    EXPECT_EQ(crlf_zeilen(konstanz)[0],
+              "M\xFCnchen (TRY 2015 f\xFCr Klimaregion 9 und 12) (Deutschland)");
+}
+
+TEST(Stationsdateien, EuropeanStationsLieOnTheEuropeMap) {
+    // The map position of the station lists: latitude from line 2, longitude east positive from
+    // line 3, and the bounds of the Europe map picture.
+    const std::set<std::string> europa = {
+        "wien_2019.met",     "bruessel_2019.met",   "sofia_2019.met",     "nikosia_2019.met",
+        "prag_2019.met",     "kopenhagen_2019.met", "malaga_2019.met",    "vierzon.met",
+        "paris_2019.met",    "belfast.met",         "london_2019.met",    "athen_2019.met",
+        "budapest_2019.met", "dublin_2019.met",     "suedtirol.met",      "piemont.met",
+        "rom_2019.met",      "sizilien.met",        "amsterdam_2019.met", "oslo_2019.met",
+        "warschau_2019.met", "belgrad_2019.met",    "ljubljana_2019.met", "stockholm_2019.met",
+        "trier.met",         "hamburg.met",         "passau.met"};
+    for (const std::string& name : europa) {
+        SCOPED_TRACE(name);
+        const std::vector<std::string> z = crlf_zeilen(lesen(KLIMA / name));
+        const double B = numerisch_lesen(spalten(z[1], 15, 24));
+        const double O = -numerisch_lesen(spalten(z[2], 15, 24));
+        const double Y = (132.0 / 30) * (74.104 - B);
+        const double X1 = (O + 25.203) * (92.0 / 30);
+        const double X = X1 + (Y / 240) * (X1 * (12.0 / 31) - 1193.0 / 31);
+        EXPECT_GE(X, 0);
+        EXPECT_LE(X, 233);
+        EXPECT_GE(Y, 0);
+        EXPECT_LE(Y, 200);
+    }
+}
