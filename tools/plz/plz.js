@@ -1,4 +1,4 @@
-// Writes klima/plz.txt: one item per three-digit post code prefix 000..999, "ppp,r" on a line of
+// Writes klima/plz.txt: one item per three-digit post code prefix 000..999, "ppp r" on a line of
 // its own (CR LF), r the climate region 1..12 or 0 for a prefix that is not in use. Each prefix in
 // use gets an approximate place of its area (the main town of the prefix where known, otherwise
 // the centre of its two-digit area) and then the region in which that place lies on the German
@@ -140,7 +140,7 @@ function main(ziel) {
       const [lat, lon] = ORT[p] || LEITREGION[p.slice(0, 2)];
       r = region(lon, lat);
     }
-    zeilen.push(`${p},${r}`);
+    zeilen.push(`${p} ${r}`);
   }
   fs.writeFileSync(ziel, zeilen.join('\r\n') + '\r\n', 'latin1');
 }
