@@ -9,6 +9,7 @@
 #include "climate/klimadatei.h"
 #include "climate/numerisch.h"
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/import/spalten.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace {
 
 // A substring by 1-based start and length that yields what the line holds of it.
@@ -36,7 +39,8 @@ void StelleTab(std::string_view zeile, int n, std::string& wert, bool& ok) {
 void Spalten_Festlegen(Klimaimport& f, std::string_view beispiel) {
     f.Spaltenanfang.fill(0);
     f.Spaltenzahl = 0;
-    const std::size_t laenge = beispiel.size();
+    // Positions are 16-bit: columns beyond that length are not found.
+    const std::size_t laenge = std::min<std::size_t>(beispiel.size(), INT16_MAX - 1);
     std::size_t i = 0; // 0-based; positions are stored 1-based
     int k = 0;
     if (f.Datentrennung == 2) {
