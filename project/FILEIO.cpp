@@ -287,6 +287,10 @@ void FILEIO::start(const std::string& befehlszeile, const std::string& programmo
     }
 }
 
+std::string FILEIO::hilfe_datei() const {
+    return p_.AppPfad + "/Velmaris_" + p_.Sprache + ".chm";
+}
+
 std::string projekt_aus_befehlszeile(const std::string& befehlszeile) {
     // Lowered as a whole: the path reaches the file system in lower case.
     const std::string zeile = klein(befehlszeile);

@@ -44,6 +44,10 @@ public:
     // command line, the build-up, and a project named on the command line opened.
     void start(const std::string& befehlszeile, const std::string& programmordner);
 
+    // The compiled help file of the language of the run, which the help viewer opens at its
+    // start page.
+    std::string hilfe_datei() const;
+
     // The path the project file is held open under, while Datei_offen is 1.
     const std::string& offene_datei() const { return offene_datei_; }
     // The title of the main window.

@@ -263,4 +263,5 @@ TEST(FILEIO, CommandLine) {
     EXPECT_FLOAT_EQ(zweites.p->b, 14.0f);
     EXPECT_EQ(zweites.dialogs.titel, "Velmaris - HAUS.VEL");
     EXPECT_EQ(zweites.p->AppPfad, "/prog");
+    EXPECT_EQ(zweites.io->hilfe_datei(), "/prog/Velmaris_d.chm");
 }

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/charts/Diagrammhilfe.h"
+
+#include "calc/c_mod.h"
+#include "language/c_Sprache.h"
+#include "project/c_glob.h"
+
+std::unique_ptr<Projekt> diagrammprojekt(const TempOrdner& ordner, const std::string& sprache) {
+    auto p = neues_testprojekt(ordner);
+    p->Sprache = sprache;
+    sprachtexte_setzen(*p);
+    return p;
+}
+
+Diagrammeinstellung einstellung(const std::string& sprache) {
+    Diagrammeinstellung e;
+    e.Sprache = sprache;
+    e.dezimal = '.';
+    return e;
+}
+
+std::vector<RecordingSurface::Primitive> boxen(const RecordingSurface& s, Rgb farbe) {
+    std::vector<RecordingSurface::Primitive> r;
+    for (const auto& p : s.of_kind(RecordingSurface::Primitive::Kind::FilledBox)) {
+        if (p.colour == farbe) {
+            r.push_back(p);
+        }
+    }
+    return r;
+}
