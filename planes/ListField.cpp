@@ -4,7 +4,7 @@
 #include "project/Laufzeitfehler.h"
 
 void ListField::setze_index(int index) {
-    if (index < -1 || index >= static_cast<int>(Eintraege.size())) {
+    if (index < 0 || index >= static_cast<int>(Eintraege.size())) {
         throw Laufzeitfehler(Laufzeitfehler::UngueltigerWert,
                              "Invalid property value: list index " + std::to_string(index) +
                                  " of a list with " + std::to_string(Eintraege.size()) + " rows");

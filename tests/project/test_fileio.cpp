@@ -113,6 +113,27 @@ TEST(FILEIO, EveryOpenFaultIsDateifehler) {
     EXPECT_FLOAT_EQ(prog.p->l, 30.0f);
 }
 
+TEST(FILEIO, IndicesOutsideTheirListsAreReadFaults) {
+    // Roof space row 3 is the table's empty row, which the list does not offer. The window
+    // types count in the individual mode only: the same windows take the south type.
+    using Zeilen = std::vector<std::pair<int, std::string>>;
+    for (const Zeilen& zeilen :
+         {Zeilen{{28, " 3"}}, Zeilen{{28, "-1"}}, Zeilen{{16, " 8"}, {62, "1"}},
+          Zeilen{{19, "-1"}, {62, "1"}}, Zeilen{{17, " 8"}}, Zeilen{{29, " 5"}},
+          Zeilen{{65, " 10"}}, Zeilen{{67, " 5"}}}) {
+        Programm prog;
+        prog.ordner.schreiben("x.vel", projektdatei(prog, zeilen));
+        prog.io->datei_oeffnen(prog.pfad("x.vel"));
+        EXPECT_EQ(prog.dialogs.texte(), std::vector<std::string>{"Dateifehler!"})
+            << zeilen[0].first << ":" << zeilen[0].second;
+    }
+    Programm gleich;
+    gleich.ordner.schreiben("x.vel", projektdatei(gleich, {{16, " 8"}}));
+    gleich.io->datei_oeffnen(gleich.pfad("x.vel"));
+    EXPECT_TRUE(gleich.dialogs.nachrichten.empty());
+    EXPECT_EQ(gleich.p->fenstern_typ, 3);
+}
+
 TEST(FILEIO, FaultWhileReadingLeavesTheGuardSet) {
     Programm prog;
     // 60 m is beyond the length's scroll field.

@@ -152,6 +152,8 @@ TEST(Projektdatei, ShortOrBrokenFilesThrowAndKeepWhatWasRead) {
     falsch = version32();
     falsch[57] = " 3"; // no such construction row
     EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
+    falsch[57] = "-1";
+    EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
     falsch = version32();
     falsch[58] = " 2"; // a check holds 0 or 1
     EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
