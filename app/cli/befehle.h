@@ -24,3 +24,10 @@ int befehl_save(const std::vector<std::string>& args, std::ostream& aus, std::os
 // into the station file NAME.met of the klima folder; the messages of the import on the terminal.
 // Status 2 when the import refused the source.
 int befehl_import(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler);
+
+// klima stationen [--klima DIR]: the station lists as the climate plane builds them, one line per
+// station (file, name, world map X and Y, Europe map X and Y for the stations on that map).
+// klima plz CODE [--klima DIR]: the region, station file and region text of a post code; status 3
+// with the message for a prefix not in use. klima region X Y [--programm DIR]: the region under a
+// pixel of the German map, 0 for none.
+int befehl_klima(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler);

@@ -16,7 +16,9 @@ void hilfe(std::ostream& aus) {
            "                                        open a project, recalculate, print JSON\n"
            "  save OUT.vel [--from PROJECT.vel] [--klima DIR]\n"
            "                                        write the new or the opened project\n"
-           "  import SOURCE --name NAME ...          convert climate data into a station file\n";
+           "  import SOURCE --name NAME ...          convert climate data into a station file\n"
+           "  klima stationen | plz CODE | region X Y\n"
+           "                                        station lists, post code and map region\n";
 }
 
 } // namespace
@@ -37,6 +39,9 @@ int main(int argc, char** argv) {
         }
         if (args[0] == "import") {
             return befehl_import(rest, std::cout, std::cerr);
+        }
+        if (args[0] == "klima") {
+            return befehl_klima(rest, std::cout, std::cerr);
         }
         std::cerr << "velmaris-cli: unknown command \"" << args[0] << "\"\n";
         hilfe(std::cerr);

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/cli/befehle.h"
+#include "app/cli/pfade.h"
+#include "climate/Bitmap.h"
+#include "climate/E_Klima.h"
+#include "climate/klimaregionen.h"
+#include "climate/plz_suche.h"
+#include "climate/stationslisten.h"
+#include "project/c_glob.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace {
+
+const char* const AUFRUF = "usage: velmaris-cli klima stationen [--klima DIR]\n"
+                           "       velmaris-cli klima plz CODE [--klima DIR]\n"
+                           "       velmaris-cli klima region X Y [--programm DIR]\n";
+
+int stationen(const std::string& klima, std::ostream& aus) {
+    const Stationslisten l = stationslisten_bauen(klima);
+    aus << "file\tname\tworld_x\tworld_y\teurope_x\teurope_y\n";
+    for (int i = 0; i < l.Welt.anzahl(); ++i) {
+        const auto k = static_cast<std::size_t>(i);
+        aus << l.Welt.Dateiname[k] << "\t" << l.Welt.Stationsname[k] << "\t" << l.Welt.Laenge[k]
+            << "\t" << l.Welt.Breite[k];
+        const int e = l.Europa.suchen(l.Welt.Dateiname[k]);
+        if (e >= 0) {
+            aus << "\t" << l.Europa.Laenge[static_cast<std::size_t>(e)] << "\t"
+                << l.Europa.Breite[static_cast<std::size_t>(e)];
+        }
+        aus << "\n";
+    }
+    return 0;
+}
+
+int plz(const std::string& klima, const std::string& code, std::ostream& aus,
+        std::ostream& fehler) {
+    if (code.size() != 5) {
+        fehler << "Bitte Postleitzahl 5-stellig eingeben!\n";
+        return 1;
+    }
+    const int region = plz_region_aus_datei(klima + "/plz.txt", code);
+    if (region == 0) {
+        fehler << "  Keine gültige Postleitzahl!  \n";
+        return 3;
+    }
+    Projekt& p = projekt();
+    neues_projekt(p);
+    aus << region << "\t" << p.Regionsdatei[region] << "\t" << klimaregion(region).text << "\n";
+    return 0;
+}
+
+int region(const std::string& programm, const std::string& x, const std::string& y,
+           std::ostream& aus) {
+    const Bitmap karte = bitmap_lesen(programm + "/" + klimakarte(0));
+    const int r = region_an_pixel(karte, std::atoi(x.c_str()), std::atoi(y.c_str()), true);
+    aus << r;
+    if (r > 0) {
+        aus << "\t" << klimaregion(r).text;
+    }
+    aus << "\n";
+    return 0;
+}
+
+} // namespace
+
+int befehl_klima(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler) {
+    std::string klima = datenordner("klima");
+    // The map pictures lie in Grafiken/ of the program folder.
+    std::string programm = std::filesystem::path(datenordner("Grafiken")).parent_path().string();
+    std::vector<std::string> worte;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (args[i] == "--klima" && i + 1 < args.size()) {
+            klima = args[++i];
+        } else if (args[i] == "--programm" && i + 1 < args.size()) {
+            programm = args[++i];
+        } else {
+            worte.push_back(args[i]);
+        }
+    }
+    if (worte.size() == 1 && worte[0] == "stationen") {
+        return stationen(klima, aus);
+    }
+    if (worte.size() == 2 && worte[0] == "plz") {
+        return plz(klima, worte[1], aus, fehler);
+    }
+    if (worte.size() == 3 && worte[0] == "region") {
+        return region(programm, worte[1], worte[2], aus);
+    }
+    fehler << AUFRUF;
+    return 1;
+}
