@@ -28,3 +28,19 @@ std::vector<RecordingSurface::Primitive> boxen(const RecordingSurface& s, Rgb fa
     }
     return r;
 }
+
+std::unique_ptr<Projekt> kuehlprojekt(const TempOrdner& ordner, const std::string& sprache) {
+    auto p = diagrammprojekt(ordner, sprache);
+    p->Tueber = 22;
+    p->fs = 80;
+    alles_berechnen(*p);
+    return p;
+}
+
+int pixel_in_spalte(const RecordingSurface& s, int x, int y_von, int y_bis, Rgb farbe) {
+    int n = 0;
+    for (int y = y_von; y <= y_bis; ++y) {
+        n += s.pixel(x, y) == farbe ? 1 : 0;
+    }
+    return n;
+}

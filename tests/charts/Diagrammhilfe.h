@@ -26,16 +26,17 @@ struct Heizen {
     RecordingSurface Gewinne_N{10, 52}, Verluste_N{10, 52}, Gewinne_S{10, 52}, Verluste_S{10, 52},
         Gewinne_O{10, 52}, Verluste_O{10, 52}, Gewinne_W{10, 52}, Verluste_W{10, 52};
     HeizFelder Felder;
-    HeizenFlaechen f{Heizbilanz, JahrBilanz, NutzungsgradMonat, NutzungsgradJahr, Gewinne_N,
-                     Verluste_N, Gewinne_S, Verluste_S, Gewinne_O, Verluste_O, Gewinne_W,
-                     Verluste_W, Felder};
+    HeizenFlaechen f{Heizbilanz, JahrBilanz, NutzungsgradMonat, NutzungsgradJahr,
+                     Gewinne_N,  Verluste_N, Gewinne_S,         Verluste_S,
+                     Gewinne_O,  Verluste_O, Gewinne_W,         Verluste_W,
+                     Felder};
 };
 
 struct Kuehlen {
     RecordingSurface StundenProTagMonat{330, 130}, StundenProTagJahr{90, 130},
         KuehlbedarfMonat{330, 130}, KuehlbedarfJahr{90, 130}, KuehlGradStundenMonat{330, 130},
         KuehlGradStundenJahr{90, 130};
-    KuehlenFlaechen f{StundenProTagMonat, StundenProTagJahr, KuehlbedarfMonat,
+    KuehlenFlaechen f{StundenProTagMonat, StundenProTagJahr,     KuehlbedarfMonat,
                       KuehlbedarfJahr,    KuehlGradStundenMonat, KuehlGradStundenJahr};
 };
 
@@ -53,3 +54,10 @@ Diagrammeinstellung einstellung(const std::string& sprache);
 
 // The logged filled boxes of a surface in one colour.
 std::vector<RecordingSurface::Primitive> boxen(const RecordingSurface& s, Rgb farbe);
+
+// The same project with a low overheating limit and a large south window, so that it needs
+// cooling in the summer months.
+std::unique_ptr<Projekt> kuehlprojekt(const TempOrdner& ordner, const std::string& sprache);
+
+// The number of pixels of `farbe` in column x from row y_von to y_bis.
+int pixel_in_spalte(const RecordingSurface& s, int x, int y_von, int y_bis, Rgb farbe);
