@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The energy flow diagrams: the primitives' pixels, the band widths and how they add up, the
+// door kept at two pixels, the S-bend's fallback, the texts of both languages, and the cooling
+// diagram with and without demand.
+
+#include "charts/A_Sankey.h"
+#include "charts/c_sankey.h"
+#include "tests/charts/Diagrammhilfe.h"
+
+#include "project/c_glob.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+
+namespace {
+
+using Kind = RecordingSurface::Primitive::Kind;
+
+const ChartTheme T;
+constexpr Rgb BAND{255, 180, 180};
+constexpr Rgb KUEHLBAND{180, 180, 255};
+
+// The first row from the top where column x has the colour.
+int oberste_zeile(const RecordingSurface& s, int x, Rgb farbe) {
+    for (int y = 0; y < s.ScaleHeight(); ++y) {
+        if (s.pixel(x, y) == farbe) {
+            return y;
+        }
+    }
+    return -1;
+}
+
+TEST(SankeyPrimitive, LinieKeepsItsLastPixelWhicheverWayItRuns) {
+    RecordingSurface s(30, 30);
+    double x1 = 10, y1 = 5, x2 = 3, y2 = 5;
+    Sankey_Linie(s, x1, y1, x2, y2, BAND);
+    EXPECT_EQ(x1, 3); // the end points have changed places
+    EXPECT_EQ(s.pixel(3, 5), BAND);
+    EXPECT_EQ(s.pixel(10, 5), BAND);
+    EXPECT_EQ(s.pixel(11, 5), WHITE);
+    double a = 20, b = 20, c = 20, d = 12;
+    Sankey_Linie(s, a, b, c, d, BAND);
+    EXPECT_EQ(s.pixel(20, 12), BAND);
+    EXPECT_EQ(s.pixel(20, 11), WHITE);
+    // A point is one pixel.
+    double p = 25, q = 25, r = 25, t = 25;
+    Sankey_Linie(s, p, q, r, t, BAND);
+    EXPECT_EQ(s.pixel(25, 25), BAND);
+    EXPECT_EQ(s.pixel(26, 25), WHITE);
+}
+
+TEST(SankeyPrimitive, SpitzeTheOrderOfTheEndPointsChoosesTheDirection) {
+    RecordingSurface s(60, 60);
+    // Vertical, lower point first: apex K = 5 pixels to the right at the middle.
+    Sankey_Spitze(s, 5, 20, 5, 10, BAND);
+    EXPECT_EQ(s.pixel(10, 15), BAND);
+    EXPECT_EQ(s.pixel(11, 15), WHITE);
+    EXPECT_EQ(s.pixel(5, 10), BAND);
+    // Horizontal left to right: apex below; right to left: apex above.
+    Sankey_Spitze(s, 30, 30, 40, 30, BAND);
+    EXPECT_EQ(s.pixel(35, 35), BAND);
+    EXPECT_EQ(s.pixel(35, 36), WHITE);
+    Sankey_Spitze(s, 50, 50, 40, 50, BAND);
+    EXPECT_EQ(s.pixel(45, 45), BAND);
+    EXPECT_EQ(s.pixel(45, 44), WHITE);
+    // A segment of length 1 has K = 0: one line of a pixel each end.
+    RecordingSurface k(10, 10);
+    Sankey_Spitze(k, 2, 3, 2, 2, BAND);
+    EXPECT_EQ(k.of_kind(Kind::Line).size(), 2u);
+}
+
+TEST(SankeyPrimitive, BogenIsARingSectorWhoseWhiteDiskErasesItsInside) {
+    RecordingSurface s(80, 80);
+    s.FillStyle = FillMode::Solid;
+    s.FillColor = BAND;
+    s.FilledBox(35, 35, 45, 45, Rgb{0, 0, 255}); // something under the bend's inside
+    Sankey_Bogen(s, 40, 40, 270, 360, 8, 10, BAND);
+    // Lower right quarter between radius 10 and 18.
+    EXPECT_EQ(s.pixel(40 + 10, 40 + 10), BAND); // radius 14
+    EXPECT_EQ(s.pixel(40, 40 + 15), BAND);
+    EXPECT_EQ(s.pixel(40 + 3, 40 + 3), WHITE); // erased, though blue was there
+    EXPECT_EQ(s.pixel(40 - 10, 40 - 10), WHITE);
+    EXPECT_EQ(s.FillColor, BAND);
+    const auto pie = s.of_kind(Kind::Pie);
+    ASSERT_EQ(pie.size(), 1u);
+    EXPECT_EQ(pie[0].radius, 18);
+    EXPECT_FLOAT_EQ(static_cast<float>(pie[0].start), static_cast<float>(-3.14159265 * 270 / 180));
+    EXPECT_EQ(s.of_kind(Kind::Circle)[0].radius, 9);
+}
+
+TEST(SankeyPrimitive, SBendRadiusFollowsTheWidthAndGivesWayAtFortyNine) {
+    EXPECT_EQ(s_bogen(10).r, 20);
+    EXPECT_EQ(s_bogen(30).r, 10);
+    EXPECT_EQ(s_bogen(47).r, 2); // 1.5 rounds to the even 2
+    EXPECT_EQ(s_bogen(48).r, 1);
+    EXPECT_EQ(s_bogen(49).r, 0); // 0.5 rounds to 0: no curve
+    // The two arcs are tangent: dx² + (2r + b - dy)² = (2r + b)².
+    const SBogen b = s_bogen(30);
+    EXPECT_NEAR(30.0 * 30 + b.versatz * b.versatz, std::pow(2 * b.r + 30, 2), 1e-9);
+    EXPECT_NEAR(b.theta, 90 - std::atan(b.versatz / 30) * 180 / 3.1416, 1e-12);
+}
+
+TEST(SankeyHeizen, BandWidthsSumAsTheBalanceDoes) {
+    TempOrdner o;
+    auto p = diagrammprojekt(o, "d");
+    Sankey sk;
+    SankeyHeizen(*p, sk.f, einstellung("d"));
+    const auto m = sankey_heizen_masse(*p, 300);
+    // Each width is the floor of its value over S, so sums agree to the pixel.
+    EXPECT_LE(std::abs(m.bPE - (m.bEE + m.bTV)), 1);
+    EXPECT_LE(std::abs(m.bEE - (m.bQH + m.bSV)), 1);
+    EXPECT_LE(std::abs((m.bQH + m.bQI + m.bQS) - (m.bQL + m.bQT)), 2);
+    ASSERT_GT(m.bSV, 0);
+    ASSERT_GT(m.bTV, 0);
+    // The tallest stack fits: S is the largest candidate over 300 - 50 - 20 pixels.
+    EXPECT_NEAR(m.S, (static_cast<double>(p->qsols) + p->qhs_sum + 2 * m.SV) / (300 - 50 - 20),
+                1e-9);
+
+    const RecordingSurface& s = sk.Sankey_;
+    // The primary band: bPE rows from yP up at its right end, where the tail notch (half the
+    // band deep) cuts only its middle.
+    EXPECT_EQ(s.pixel(79, m.yP), BAND);
+    EXPECT_EQ(s.pixel(79, m.yP + 1), WHITE);
+    EXPECT_EQ(s.pixel(79, m.yP - m.bPE + 1), BAND);
+    EXPECT_EQ(s.pixel(79, m.yP - m.bPE), WHITE);
+    EXPECT_EQ(s.pixel(79, m.yP - m.bPE / 2), WHITE);
+    // The end energy band at x 100, and the heat band at x 150 holds the heat demand plus the
+    // gains that join it further right but not yet the internal gains below.
+    EXPECT_EQ(pixel_in_spalte(s, 100, m.yE - 5, m.yP + 5, BAND), m.bEE);
+    // The collected band between 230 and 280 is the whole balance: heat, internal and solar.
+    EXPECT_EQ(pixel_in_spalte(s, 255, m.yD - m.bQS - 5, m.yC + 5, BAND), m.yC - (m.yD - m.bQS) + 1);
+    EXPECT_EQ(m.yC - (m.yD - m.bQS), m.bQI + m.bQH + m.bQS);
+    // The system loss arrow ends in a tip downward; the loss band has bSV + 1 columns.
+    EXPECT_EQ(s.pixel(130 + m.bSV / 2, static_cast<int>(300 - 25 - m.bSV / 2.0) + 2), BAND);
+    // The TV band's tip ends at y 25 for every width (to the pixel: an odd width puts its
+    // edge on a half row).
+    EXPECT_NEAR(oberste_zeile(s, 90 + m.bTV / 2, BAND), 25, 1);
+    // The ventilation arrow's head ends at x 350.
+    const int y_lueft = m.yF - 10 - m.bQL / 2;
+    EXPECT_EQ(s.pixel(349, y_lueft), BAND);
+    EXPECT_EQ(s.pixel(352, y_lueft), WHITE);
+    // All bends come before the straight pieces.
+    bool gerade = false;
+    for (const auto& x : s.log()) {
+        gerade = gerade || x.kind == Kind::FilledBox;
+        EXPECT_FALSE(gerade && (x.kind == Kind::Pie || x.kind == Kind::Circle));
+    }
+}
+
+TEST(SankeyHeizen, TransmissionSplitsByPartAndTheListGivesTheShares) {
+    TempOrdner o;
+    auto p = diagrammprojekt(o, "d");
+    Sankey sk;
+    SankeyHeizen(*p, sk.f, einstellung("d"));
+    const auto m = sankey_heizen_masse(*p, 300);
+    const auto t = transmissionsteilung(*p, m);
+    const RecordingSurface& s = sk.Sankey_;
+    // No door loss: B2 = B1, and no door line in the list.
+    EXPECT_EQ(t.B2, t.B1);
+    EXPECT_TRUE(s.prints("Tür (0 %)").empty());
+    // White dividing lines at the boundaries.
+    EXPECT_EQ(s.pixel(330, t.B1), WHITE);
+    EXPECT_EQ(s.pixel(330, t.B3), WHITE);
+    EXPECT_EQ(s.pixel(330, t.B1 + 3), BAND);
+    const int dach = static_cast<int>(std::lround(p->qtr_Dach / p->qtr * 100));
+    const auto zeile = s.prints("Dach (" + std::to_string(dach) + " %)");
+    ASSERT_EQ(zeile.size(), 1u);
+    EXPECT_EQ(zeile[0].x1, 356);
+}
+
+TEST(SankeyHeizen, ASmallDoorLossKeepsABandOfTwoPixels) {
+    TempOrdner o;
+    auto p = diagrammprojekt(o, "e");
+    p->qtr_Tuer = p->qtr * 0.001f;
+    Sankey sk;
+    SankeyHeizen(*p, sk.f, einstellung("e"));
+    const auto m = sankey_heizen_masse(*p, 300);
+    const auto t = transmissionsteilung(*p, m);
+    EXPECT_EQ(t.B2, t.B1 - 2);
+    // Its rectangle spans B1 - 1 .. B2 + 1 and its share shows as 0.
+    bool tuer = false;
+    for (const auto& b : sk.Sankey_.of_kind(Kind::FilledBox)) {
+        tuer = tuer || (b.x1 == 310 && b.y1 == t.B1 - 1 && b.y2 == t.B2 + 1);
+    }
+    EXPECT_TRUE(tuer);
+    EXPECT_EQ(sk.Sankey_.prints("door (0 %)").size(), 1u);
+    EXPECT_EQ(sk.Sankey_.prints("transmission losses").size(), 1u);
+}
+
+TEST(SankeyHeizen, GainsFromTheEnvironmentAndRenewableEnergy) {
+    TempOrdner o;
+    auto p = diagrammprojekt(o, "d");
+    // A heat pump: less end energy than heat demand, and primary energy equal to end energy.
+    p->q_HE_Energietraeger = p->qhs_sum * 0.3f;
+    p->q_HE_Strom = 0;
+    p->q_PE_Energietraeger = p->q_HE_Energietraeger;
+    p->q_PE_Strom = 0;
+    Sankey sk;
+    SankeyHeizen(*p, sk.f, einstellung("d"));
+    const auto m = sankey_heizen_masse(*p, 300);
+    ASSERT_LT(m.bSV, 0);
+    const int a = -m.bSV;
+    // The main band's lower edge moves down by |bSV| at x 120.
+    EXPECT_EQ(m.yB, m.yP + a);
+    bool pfeil = false;
+    for (const auto& b : sk.Sankey_.of_kind(Kind::FilledBox)) {
+        pfeil = pfeil || (b.x1 == 110 && b.x2 == 110 - a && b.y2 == 300 - 25);
+    }
+    EXPECT_TRUE(pfeil);
+    EXPECT_EQ(sk.Sankey_.prints("Gewinne aus der Umwelt").size(), 1u);
+    // TV of exactly zero: the loss branch is drawn, the renewable text shows 0.0.
+    EXPECT_EQ(m.TV, 0);
+    EXPECT_EQ(sk.Sankey_.prints("Erneuerbare Energien").size(), 1u);
+    EXPECT_EQ(sk.Sankey_.prints("0.0 kWh/(m² a)").size(), 1u);
+}
+
+TEST(SankeyHeizen, AGainBandOfFortyNinePixelsOrMoreLosesItsSCurve) {
+    TempOrdner o;
+    auto p = diagrammprojekt(o, "d");
+    const auto m = sankey_heizen_masse(*p, 300);
+    // Internal gains below 49 pixels bend in two arcs; solar gains and ventilation at 49 and
+    // more run as slanted bands.
+    ASSERT_LT(m.bQI, 49);
+    ASSERT_GE(m.bQS, 49);
+    ASSERT_GE(m.bQL, 49);
+    Sankey sk;
+    SankeyHeizen(*p, sk.f, einstellung("d"));
+    EXPECT_EQ(sk.Sankey_.of_kind(Kind::Pie).size(), 2u + 2u);
+    // The solar slanted band: bQS + 1 lines from x 200 to 230 and one pixel beyond.
+    int schraeg = 0;
+    for (const auto& l : sk.Sankey_.of_kind(Kind::Line)) {
+        schraeg += l.x1 == 200 && l.x2 == 231 ? 1 : 0;
+    }
+    EXPECT_EQ(schraeg, m.bQS + 1);
+
+    p->qsols = p->qsols / 2;
+    ASSERT_LT(sankey_heizen_masse(*p, 300).bQS, 49);
+    Sankey schmal;
+    SankeyHeizen(*p, schmal.f, einstellung("d"));
+    EXPECT_EQ(schmal.Sankey_.of_kind(Kind::Pie).size(), 2u + 4u);
+}
+
+TEST(SankeyHeizen, TextsOfBothLanguagesAtTheirAnchors) {
+    TempOrdner o;
+    for (const char* sprache : {"d", "e"}) {
+        auto p = diagrammprojekt(o, sprache);
+        Sankey sk;
+        SankeyHeizen(*p, sk.f, einstellung(sprache));
+        const RecordingSurface& s = sk.Sankey_;
+        const bool de = std::string(sprache) == "d";
+        const std::string lueftung = de ? "Lüftungsverluste" : "ventilation losses";
+        const auto l = s.prints(lueftung);
+        ASSERT_EQ(l.size(), 1u);
+        EXPECT_EQ(l[0].x1, 415 - s.TextWidth(lueftung));
+        EXPECT_EQ(l[0].y1, 0);
+        EXPECT_EQ(l[0].font, "Arial");
+        const std::string solar = de ? "nutzbare solare Gewinne" : "usable solar gains";
+        ASSERT_EQ(s.prints(solar).size(), 1u);
+        EXPECT_EQ(s.prints(solar)[0].x1, 215 - s.TextWidth(solar) / 2);
+        EXPECT_EQ(s.prints(de ? "Verluste Heizungssystem" : "losses of the heating").size(), 1u);
+        EXPECT_EQ(s.prints(de ? "Umwandlungs- und Transport-" : "losses for transformation").size(),
+                  1u);
+        EXPECT_EQ(s.prints(de ? "Heizwärmebedarf" : "heat energy demand").size(), 1u);
+    }
+}
+
+TEST(SankeyHeizen, AllZeroValuesGiveScaleOneAndZeroTexts) {
+    auto p = leeres_projekt();
+    Sankey sk;
+    SankeyHeizen(*p, sk.f, einstellung("d"));
+    const auto m = sankey_heizen_masse(*p, 300);
+    EXPECT_EQ(m.S, 1);
+    EXPECT_EQ(m.bPE, 0);
+    EXPECT_FALSE(sk.Sankey_.prints("0.0 kWh/(m² a)").empty());
+}
+
+TEST(SankeyKuehlen, WithoutDemandOnlyTheCentredText) {
+    TempOrdner o;
+    for (const char* sprache : {"d", "e"}) {
+        auto p = diagrammprojekt(o, sprache);
+        Sankey sk;
+        SankeyKuehlen(*p, sk.f, einstellung(sprache));
+        const RecordingSurface& s = sk.Sankey_Kuehlen;
+        const std::string text = std::string(sprache) == "d"
+                                     ? "Kein Kühlbedarf vorhanden."
+                                     : "The building has no cooling demand.";
+        ASSERT_EQ(s.log().size(), 2u); // Cls and the text
+        const auto t = s.prints(text);
+        ASSERT_EQ(t.size(), 1u);
+        EXPECT_EQ(t[0].x1, (420 - s.TextWidth(text)) / 2);
+        EXPECT_EQ(t[0].y1, 300 / 2.0 - 6);
+    }
+}
+
+TEST(SankeyKuehlen, FlowsOfACoolingBuilding) {
+    TempOrdner o;
+    auto p = kuehlprojekt(o, "d");
+    Sankey sk;
+    SankeyKuehlen(*p, sk.f, einstellung("d"));
+    const auto m = sankey_kuehlen_masse(*p, 300);
+    ASSERT_GT(m.bC, 0);
+    EXPECT_EQ(m.bC, m.bTeil[0] + m.bTeil[1] + m.bTeil[2] + m.bTeil[3]);
+    EXPECT_EQ(m.bE, static_cast<int>(m.bC / p->Klimaeffizienz));
+    EXPECT_LE(m.bL, 80);
+    // The stack of cooling demand over end energy ends 60 pixels above the bottom.
+    EXPECT_EQ(m.y0, 300 - m.bC - m.bE - 60);
+    const RecordingSurface& s = sk.Sankey_Kuehlen;
+    // At x 250 the collected band and the end energy band lie one over the other.
+    EXPECT_EQ(pixel_in_spalte(s, 250, 0, 299, KUEHLBAND), m.bC + m.bE);
+    // Both outlet heads end at x 410.
+    EXPECT_EQ(s.pixel(409, m.y0 + m.bC / 2), KUEHLBAND);
+    EXPECT_EQ(s.pixel(412, m.y0 + m.bC / 2), WHITE);
+    const int yP = m.y0 + m.bC + m.bE - 1;
+    EXPECT_EQ(s.pixel(409, yP - m.bE / 2), KUEHLBAND);
+    // The loss turns upward and its head ends at y 25.
+    EXPECT_NEAR(oberste_zeile(s, 70 + m.bL / 2, KUEHLBAND), 25, 1);
+    // The single bend is drawn among the pieces, after the inlets.
+    EXPECT_EQ(s.of_kind(Kind::Pie).size(), 1u);
+    EXPECT_EQ(s.prints("Überschüssige").size(), 1u);
+    EXPECT_EQ(s.prints("Abwärme Kühlgerät").size(), 1u);
+    EXPECT_EQ(s.prints("End-Kühlenergiebedarf").size(), 1u);
+    bool transmission = false;
+    for (const auto& t : s.printed_texts()) {
+        transmission = transmission || t.rfind(" - Transmissionsgewinne: ", 0) == 0;
+    }
+    EXPECT_TRUE(transmission);
+}
+
+TEST(SankeyKuehlen, ASmallEfficiencyCapsTheLossAtEightyPixelsAndShrinksTheRest) {
+    TempOrdner o;
+    auto p = kuehlprojekt(o, "e");
+    const auto vorher = sankey_kuehlen_masse(*p, 300);
+    p->Klimaeffizienz = 1;
+    const auto m = sankey_kuehlen_masse(*p, 300);
+    EXPECT_LE(m.bL, 80);
+    EXPECT_GE(m.bL, 78);
+    EXPECT_LT(m.bC, vorher.bC);
+    Sankey sk;
+    SankeyKuehlen(*p, sk.f, einstellung("e"));
+    EXPECT_EQ(sk.Sankey_Kuehlen.prints("Waste heat from cooling system").size(), 1u);
+    EXPECT_EQ(sk.Sankey_Kuehlen.prints("Surplus").size(), 1u);
+}
+
+} // namespace
