@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// The refresh table of the recalculation driver: after every whole run each chart is redrawn,
+// in a fixed order, only while its plane is visible. The core calls it through its observer
+// interface and knows nothing of charts; a hidden plane keeps its stale drawing and is painted
+// from its repaint events when it comes up.
+
+#include "calc/c_mod.h"
+#include "charts/ChartTheme.h"
+#include "charts/Flaechen.h"
+
+#include <functional>
+
+struct Projekt;
+
+// The planes the table asks about.
+enum class Ebene { Geometrie, Uebersicht, Sankey, Heizen, Kuehlen, KlimaGebaeude };
+
+// The planes whose charts the table draws. A plane that is not built (null) is skipped as if it
+// were hidden.
+struct Ergebnisebenen {
+    GeometrieFlaechen* geometrie = nullptr;
+    UebersichtFlaechen* uebersicht = nullptr;
+    SankeyFlaechen* sankey = nullptr;
+    HeizenFlaechen* heizen = nullptr;
+    KuehlenFlaechen* kuehlen = nullptr;
+    // Shows the climate and building figures (row 15); may be empty.
+    std::function<void(const Projekt&)> klima_ausfuellen;
+};
+
+// Rows 1 to 15 of the table, on the record as it stands: the visibility is asked anew before
+// each row, fifteen times in all.
+void auffrischen(const Projekt& p, Ergebnisebenen& ebenen,
+                 const std::function<bool(Ebene)>& sichtbar, const Diagrammeinstellung& e);
+
+// The table as the one observer of a project's driver runs. It takes over the registration from
+// `vorher` (the observer registered before it, usually the input planes), tells it of every run
+// first, and gives the registration back when it is destroyed; so build it after `vorher` and
+// destroy it before.
+class Auffrischtabelle : public Rechenbeobachter {
+public:
+    Auffrischtabelle(Projekt& p, Ergebnisebenen ebenen, std::function<bool(Ebene)> sichtbar,
+                     Diagrammeinstellung einstellung, Rechenbeobachter* vorher = nullptr);
+    ~Auffrischtabelle() override;
+    Auffrischtabelle(const Auffrischtabelle&) = delete;
+    Auffrischtabelle& operator=(const Auffrischtabelle&) = delete;
+
+    void geometrie_berechnet(Projekt& p) override;
+    void alles_berechnet(Projekt& p) override;
+
+private:
+    Projekt& p_;
+    Ergebnisebenen ebenen_;
+    std::function<bool(Ebene)> sichtbar_;
+    Diagrammeinstellung einstellung_;
+    Rechenbeobachter* vorher_;
+};
