@@ -30,6 +30,11 @@ bool ist_strom(const Projekt& p) {
     return p.Energie.Traegername == "Strom";
 }
 
+// The size value of a pictogram, at most 100; a value that is not a number draws nothing.
+double groesse(double v) {
+    return std::isnan(v) ? 0 : std::clamp(v, 0.0, 100.0);
+}
+
 // The row of the value v on the chart's scale of three steps S.
 double hoehe(double v, double S) {
     return 95 - v / S * 90 / 3;
@@ -166,7 +171,7 @@ void Energietraeger_zeichnen(const Projekt& p, Surface& bild2, Surface& bild3,
     const bool englisch = e.Sprache == "e";
     const std::string& name = p.Energie.Traegername;
     const double he = p.q_HE_Energietraeger;
-    const double v = std::min(he / 2, 100.0);
+    const double v = groesse(he / 2);
 
     for (Surface* s : {&bild2, &bild3}) {
         s->DrawWidth = 1;
@@ -185,7 +190,7 @@ void Energietraeger_zeichnen(const Projekt& p, Surface& bild2, Surface& bild3,
     } else if (name == "Nah-/Fernwärme") {
         fernwaerme(bild2, v);
     } else if (name == "Strom") {
-        blitz(bild2, std::min((static_cast<double>(p.q_HE_Strom) + he) / 2, 100.0));
+        blitz(bild2, groesse((static_cast<double>(p.q_HE_Strom) + he) / 2));
     }
     const Traegermenge menge = traegermenge(p);
     titel(bild2, (englisch ? p.Energie.Traegername_e : name) + ":",
@@ -195,7 +200,7 @@ void Energietraeger_zeichnen(const Projekt& p, Surface& bild2, Surface& bild3,
     if (ist_strom(p)) {
         return;
     }
-    blitz(bild3, std::min(p.q_HE_Strom * 20.0, 100.0));
+    blitz(bild3, groesse(p.q_HE_Strom * 20.0));
     titel(bild3, englisch ? "electricity:" : "Strom:",
           format_muster(static_cast<double>(p.q_HE_Strom) * p.f_nutz, "0", e.dezimal) + " kWh/a");
 }

@@ -188,4 +188,17 @@ TEST(Energietraeger, WoodPileHasRowsByTheSizeValue) {
     EXPECT_EQ(s2.prints(std::to_string(std::lround(p->f_nutz * 200 / 4.6)) + " kg/a").size(), 1u);
 }
 
+TEST(Energietraeger, AnEndEnergyThatIsNotANumberDrawsNoPictogramAndNoFault) {
+    TempOrdner o;
+    auto p = diagrammprojekt(o, "d");
+    p->q_HE_Energietraeger = std::nanf("");
+    for (const char* traeger : {"Holz", "Strom", "Erdgas"}) {
+        p->Energie.Traegername = traeger;
+        RecordingSurface s2(80, 50), s3(80, 50);
+        Energietraeger_zeichnen(*p, s2, s3, einstellung("d"));
+        EXPECT_EQ(s2.prints(std::string(traeger) + ":").size(), 1u);
+        EXPECT_EQ(s2.pixel(40, 44), WHITE) << traeger;
+    }
+}
+
 } // namespace
