@@ -30,9 +30,9 @@ public:
     // The user's click toggles the value.
     void klicken() { setze(1 - wert_); }
 
-    bool Enabled = true;
-    bool Visible = true;
-    std::function<void()> Click;
+    bool Enabled = true;         // whether the user may click it
+    bool Visible = true;         // whether it is shown
+    std::function<void()> Click; // the click handler
 
 private:
     int wert_ = 0;

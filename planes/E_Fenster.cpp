@@ -30,9 +30,15 @@ void E_Fenster::handler_verbinden(Fassade f) {
         alles_berechnen(p_);
     };
     x.typ.Click = [this, f] { typ_gewaehlt(f); };
-    x.gf_sb.Change = [this, f, &x] { wert_geaendert(f, x.gf_sb, x.gf, x.gf_anz, false, true); };
-    x.kfg_sb.Change = [this, f, &x] { wert_geaendert(f, x.kfg_sb, x.kfg, x.kfg_anz, true, true); };
-    x.kfr_sb.Change = [this, f, &x] { wert_geaendert(f, x.kfr_sb, x.kfr, x.kfr_anz, true, true); };
+    x.gf_sb.Change = [this, f, &x] {
+        typwert_geaendert(f, &Fensterfassade::gf_sb, x.gf, x.gf_anz, false);
+    };
+    x.kfg_sb.Change = [this, f, &x] {
+        typwert_geaendert(f, &Fensterfassade::kfg_sb, x.kfg, x.kfg_anz, true);
+    };
+    x.kfr_sb.Change = [this, f, &x] {
+        typwert_geaendert(f, &Fensterfassade::kfr_sb, x.kfr, x.kfr_anz, true);
+    };
     x.ra_sb.Change = [this, f, &x] {
         p_.Geaendert = 1;
         x.ra = static_cast<float>(x.ra_sb.Value() / 100.0);
@@ -89,8 +95,9 @@ void E_Fenster::typ_gewaehlt(Fassade f) {
     }
 }
 
-void E_Fenster::wert_geaendert(Fassade f, ScrollField& sb, float& feld, Label& anz,
-                               bool kombinieren, bool typ_pruefen) {
+void E_Fenster::typwert_geaendert(Fassade f, ScrollField Fensterfassade::*glied, float& feld,
+                                  Label& anz, bool kombinieren) {
+    const ScrollField& sb = (*this)[f].*glied;
     p_.Geaendert = 1;
     feld = static_cast<float>(sb.Value() / 100.0);
     anz.Caption = format_muster(feld, "0.00", dezimal_);
@@ -99,12 +106,9 @@ void E_Fenster::wert_geaendert(Fassade f, ScrollField& sb, float& feld, Label& a
     }
     // A value moved by the user makes the facade's type "Sonstiges". The test compares the
     // focused field's value with this position, as the plane always did.
-    if (typ_pruefen && Visible && Fokus != nullptr && Fokus->Value() == sb.Value()) {
+    if (Visible && Fokus != nullptr && Fokus->Value() == sb.Value()) {
         (*this)[f].typ.setze_index(FENSTERTYP_SONSTIGES);
     }
-    ScrollField Fensterfassade::*glied = &sb == &(*this)[f].gf_sb    ? &Fensterfassade::gf_sb
-                                         : &sb == &(*this)[f].kfg_sb ? &Fensterfassade::kfg_sb
-                                                                     : &Fensterfassade::kfr_sb;
     abschluss(f, glied);
 }
 

@@ -44,12 +44,21 @@ public:
 
 private:
     void handler_verbinden(Fassade f);
+    // The type list's selection: the row's values, the positions moved under the guard.
     void typ_gewaehlt(Fassade f);
-    void wert_geaendert(Fassade f, ScrollField& sb, float& feld, Label& anz, bool kombinieren,
-                        bool typ_pruefen);
+    // A change of the g value or of a U value: stores, shows, combines if asked, and makes the
+    // type "Sonstiges" when the user moved the field.
+    void typwert_geaendert(Fassade f, ScrollField Fensterfassade::*glied, float& feld, Label& anz,
+                           bool kombinieren);
+    // The whole window U value of the facade from the glazing and frame positions.
     void kf_kombinieren(Fassade f);
+    // The end of a handler of the field `feld`: a north, east or west field runs the driver in
+    // the individual mode; a south field copies to the others in the mode "same windows" and
+    // runs the driver in both.
     void abschluss(Fassade f, ScrollField Fensterfassade::*feld);
+    // The south position of `feld` set on the facades `ziele`, in that order.
     void kopieren(ScrollField Fensterfassade::*feld, std::array<Fassade, 3> ziele);
+    // The south type row set on north, west and east.
     void typ_kopieren();
 
     Projekt& p_;

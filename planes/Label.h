@@ -10,8 +10,8 @@ struct Label {
     // text while it keeps its value.
     enum class Farbe { Schaltflaechentext, Hintergrund };
 
-    std::string Caption;
-    bool Visible = true;
-    int Left = 0, Top = 0;
-    Farbe ForeColor = Farbe::Schaltflaechentext;
+    std::string Caption;                         // the text shown
+    bool Visible = true;                         // whether it is shown
+    int Left = 0, Top = 0;                       // place on its plane
+    Farbe ForeColor = Farbe::Schaltflaechentext; // text colour
 };

@@ -21,10 +21,10 @@ public:
     void text_eingeben();
 
     std::vector<std::string> Eintraege; // the rows, from 0
-    bool Visible = true;
-    bool Enabled = true;
-    std::function<void()> Click;  // selection handler
-    std::function<void()> Change; // text change handler
+    bool Visible = true;                // whether it is shown
+    bool Enabled = true;                // whether the user may choose
+    std::function<void()> Click;        // selection handler
+    std::function<void()> Change;       // text change handler
 
 private:
     int index_ = -1;

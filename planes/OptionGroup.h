@@ -24,6 +24,7 @@ public:
         }
         return -1;
     }
+    // Sets the option `index`; fires Click only if it was not set.
     void setzen(int index) {
         if (werte_.at(pos(index))) {
             return;
@@ -34,11 +35,13 @@ public:
             Click(index);
         }
     }
+    // Clears the option `index` without firing.
     void loeschen(int index) { werte_.at(pos(index)) = false; }
+    // Whether the user may choose the option `index`, and setting it.
     bool Enabled(int index) const { return enabled_.at(pos(index)); }
     void Enabled(int index, bool an) { enabled_.at(pos(index)) = an; }
 
-    std::function<void(int)> Click;
+    std::function<void(int)> Click; // the click handler, given the option's index
 
 private:
     std::size_t pos(int index) const { return static_cast<std::size_t>(index - erster_); }

@@ -22,11 +22,11 @@ public:
     void pfeil(int richtung);
     void seite(int richtung);
 
-    int16_t Min, Max;
-    int16_t SmallChange, LargeChange;
-    bool Enabled = true;
-    bool Visible = true;
-    std::function<void()> Change; // the change handler
+    int16_t Min, Max;                 // the range of the position
+    int16_t SmallChange, LargeChange; // arrow and page steps, negative against the click
+    bool Enabled = true;              // whether the user may move it
+    bool Visible = true;              // whether it is shown
+    std::function<void()> Change;     // the change handler
 
 private:
     void schieben(int schritt);

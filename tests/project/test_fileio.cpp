@@ -76,6 +76,22 @@ TEST(FILEIO, HeatedAtticKeepsTheRoofHeightOfTheFile) {
     }
 }
 
+TEST(FILEIO, HeatBridgeOptionFollowsTheStoredValue) {
+    Programm prog;
+    prog.ordner.schreiben("a.vel", projektdatei(prog, {{69, " .05"}}));
+    prog.io->datei_oeffnen(prog.pfad("a.vel"));
+    EXPECT_EQ(prog.e->daemmung.Waermebruecken_opt.gesetzt(), 3);
+    EXPECT_EQ(prog.p->Waermebruecken, 0.05f);
+    // A value of none of the options sets none and stays.
+    prog.ordner.schreiben("b.vel", projektdatei(prog, {{69, " .07"}}));
+    prog.io->datei_oeffnen(prog.pfad("b.vel"));
+    EXPECT_EQ(prog.e->daemmung.Waermebruecken_opt.gesetzt(), 3);
+    EXPECT_EQ(prog.p->Waermebruecken, 0.07f);
+    // The building plane's displays after a load: the set temperature by "0.00".
+    EXPECT_EQ(prog.e->gebaeude.troom_anz.Caption, "20.00");
+    EXPECT_EQ(prog.e->gebaeude.WRG_anz.Caption, "0");
+}
+
 TEST(FILEIO, CancelledPromptKeepsTheProject) {
     Programm prog;
     prog.e->geometrie.l_sb.setze(200);
