@@ -11,9 +11,10 @@
 // of `stellen`) goes to the even neighbour. A negative zero comes back as zero.
 double runden_gerade(double wert, int stellen);
 
-// The standard number-to-text form: up to 15 significant digits, a leading blank for values not
-// negative, no leading zero before the point (" .5", "-.4"), exponent form "1E+15" / "1E-05"
-// beyond that range.
+// The standard number-to-text form of a double-precision value: up to 15 significant digits, a
+// leading blank for values not negative, no leading zero before the point (" .5", "-.4"),
+// exponent form "1E+15" / "1E-05" beyond that range. (zahl_str of project/Zahltext.h is the form
+// of a stored 32-bit value, with seven digits; the import computes in double precision.)
 std::string zahl_als_text(double wert);
 
 // zahl_als_text with the zero put back before a leading point: " 0.5", "-0.4".
