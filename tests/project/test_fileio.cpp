@@ -92,6 +92,18 @@ TEST(FILEIO, HeatBridgeOptionFollowsTheStoredValue) {
     EXPECT_EQ(prog.e->gebaeude.WRG_anz.Caption, "0");
 }
 
+TEST(FILEIO, WholeWindowUValueIsNotInTheFile) {
+    Programm prog;
+    prog.p->kfn = 2.5f;
+    prog.dialogs.dateien = {prog.pfad("a.vel")};
+    ASSERT_TRUE(prog.io->datei_speichern_unter());
+    prog.io->datei_oeffnen(prog.pfad("a.vel"));
+    // No position of the north panel moved: the value from before the load stays.
+    EXPECT_EQ(prog.p->kfn, 2.5f);
+    prog.e->fenster[Nord].ra_sb.setze(30);
+    EXPECT_FLOAT_EQ(prog.p->kfn, static_cast<float>(0.7 * 1.4 + 1.5 * 0.3f));
+}
+
 TEST(FILEIO, CancelledPromptKeepsTheProject) {
     Programm prog;
     prog.e->geometrie.l_sb.setze(200);
