@@ -5,6 +5,7 @@
 #include "charts/A_Kuehlen.h"
 #include "charts/A_Sankey.h"
 #include "charts/A_Uebersicht.h"
+#include "charts/Energiebilder.h"
 #include "charts/Geometriebilder.h"
 
 #include <utility>
@@ -13,6 +14,11 @@ void auffrischen(const Projekt& p, Ergebnisebenen& x, const std::function<bool(E
                  const Diagrammeinstellung& e) {
     // Visibility is asked before each row, not once per plane.
     const auto zeile = [&](Ebene ebene, bool gebaut) { return sichtbar(ebene) && gebaut; };
+    // The energy refresh runs before the table and draws its pictograms and monthly chart.
+    if (zeile(Ebene::Energie, x.energie)) {
+        Energietraeger_zeichnen(p, x.energie->Picture2, x.energie->Picture3, e);
+        Monatsverbrauch_zeichnen(p, x.energie->Monatsuebersicht, e);
+    }
     if (zeile(Ebene::Geometrie, x.geometrie)) {
         AV_diagramm(p, x.geometrie->AV_Picture, e.thema);
     }

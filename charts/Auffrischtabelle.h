@@ -15,11 +15,12 @@
 struct Projekt;
 
 // The planes the table asks about.
-enum class Ebene { Geometrie, Uebersicht, Sankey, Heizen, Kuehlen, KlimaGebaeude };
+enum class Ebene { Energie, Geometrie, Uebersicht, Sankey, Heizen, Kuehlen, KlimaGebaeude };
 
 // The planes whose charts the table draws. A plane that is not built (null) is skipped as if it
 // were hidden.
 struct Ergebnisebenen {
+    EnergieFlaechen* energie = nullptr;
     GeometrieFlaechen* geometrie = nullptr;
     UebersichtFlaechen* uebersicht = nullptr;
     SankeyFlaechen* sankey = nullptr;
@@ -29,8 +30,9 @@ struct Ergebnisebenen {
     std::function<void(const Projekt&)> klima_ausfuellen;
 };
 
-// Rows 1 to 15 of the table, on the record as it stands: the visibility is asked anew before
-// each row, fifteen times in all.
+// The charts of the energy plane, which the energy refresh draws while that plane is visible,
+// then rows 1 to 15 of the table, on the record as it stands: the visibility is asked anew
+// before each row, sixteen times in all.
 void auffrischen(const Projekt& p, Ergebnisebenen& ebenen,
                  const std::function<bool(Ebene)>& sichtbar, const Diagrammeinstellung& e);
 

@@ -3,6 +3,7 @@
 // driver after a whole run and never under the load guard.
 
 #include "charts/Auffrischtabelle.h"
+#include "charts/Neuzeichnen.h"
 #include "tests/charts/Diagrammhilfe.h"
 
 #include "calc/c_mod.h"
@@ -21,9 +22,12 @@ struct Alle {
     Sankey s;
     RecordingSurface av{60, 130}, lage{80, 80};
     GeometrieFlaechen g{av, lage};
+    RecordingSurface monatsverbrauch{330, 115}, bild2{80, 50}, bild3{80, 50};
+    EnergieFlaechen en{monatsverbrauch, bild2, bild3};
     int klima = 0;
     Ergebnisebenen ebenen() {
         Ergebnisebenen e;
+        e.energie = &en;
         e.geometrie = &g;
         e.uebersicht = &u.f;
         e.sankey = &s.f;
@@ -34,7 +38,7 @@ struct Alle {
     }
 };
 
-TEST(Auffrischtabelle, VisibilityIsAskedBeforeEachOfTheFifteenRows) {
+TEST(Auffrischtabelle, VisibilityIsAskedBeforeTheEnergyChartsAndEachOfTheFifteenRows) {
     TempOrdner o;
     auto p = diagrammprojekt(o, "d");
     Alle a;
@@ -47,12 +51,14 @@ TEST(Auffrischtabelle, VisibilityIsAskedBeforeEachOfTheFifteenRows) {
             return true;
         },
         einstellung("d"));
-    const std::vector<Ebene> reihe = {Ebene::Geometrie,  Ebene::Uebersicht, Ebene::Uebersicht,
-                                      Ebene::Uebersicht, Ebene::Sankey,     Ebene::Sankey,
-                                      Ebene::Heizen,     Ebene::Heizen,     Ebene::Heizen,
-                                      Ebene::Heizen,     Ebene::Heizen,     Ebene::Kuehlen,
-                                      Ebene::Kuehlen,    Ebene::Kuehlen,    Ebene::KlimaGebaeude};
+    const std::vector<Ebene> reihe = {
+        Ebene::Energie,    Ebene::Geometrie, Ebene::Uebersicht, Ebene::Uebersicht,
+        Ebene::Uebersicht, Ebene::Sankey,    Ebene::Sankey,     Ebene::Heizen,
+        Ebene::Heizen,     Ebene::Heizen,    Ebene::Heizen,     Ebene::Heizen,
+        Ebene::Kuehlen,    Ebene::Kuehlen,   Ebene::Kuehlen,    Ebene::KlimaGebaeude};
     EXPECT_EQ(gefragt, reihe);
+    EXPECT_FALSE(a.monatsverbrauch.log().empty());
+    EXPECT_FALSE(a.bild2.log().empty());
     EXPECT_FALSE(a.av.log().empty());
     EXPECT_FALSE(a.u.Temperaturen.log().empty());
     EXPECT_FALSE(a.h.NutzungsgradJahr.log().empty());
@@ -74,6 +80,7 @@ TEST(Auffrischtabelle, AHiddenPlaneKeepsItsStaleDrawing) {
     EXPECT_TRUE(a.h.Gewinne_N.log().empty());
     EXPECT_TRUE(a.s.Sankey_.log().empty());
     EXPECT_TRUE(a.av.log().empty());
+    EXPECT_TRUE(a.monatsverbrauch.log().empty());
     EXPECT_TRUE(a.h.Felder.qh_anz.empty());
     EXPECT_EQ(a.klima, 0);
     // A plane that is not built is skipped even when it would be visible.
@@ -117,6 +124,41 @@ TEST(Auffrischtabelle, TheDriverRunsItAfterAWholeRunAndPassesTheRunsOn) {
     EXPECT_EQ(vorher.alles, 2);
     EXPECT_EQ(a.u.Monatsbilanz.of_kind(RecordingSurface::Primitive::Kind::Cls).size(), 1u);
     rechenbeobachter_setzen(*p, nullptr);
+}
+
+} // namespace
+
+namespace {
+
+using Kind = RecordingSurface::Primitive::Kind;
+
+TEST(Neuzeichnen, ARepaintRedrawsFromTheRecordWithTheSurfacesItsRoutineDraws) {
+    TempOrdner o;
+    auto p = diagrammprojekt(o, "d");
+    Alle a;
+    Ergebnisebenen e = a.ebenen();
+    const double qh = p->qh;
+    // The year balance of the overview is repainted with the month balance.
+    neu_zeichnen(Flaeche::JahrBilanz_Uebersicht, *p, e, einstellung("d"));
+    EXPECT_EQ(a.u.Monatsbilanz.of_kind(Kind::Cls).size(), 1u);
+    EXPECT_EQ(a.u.JahrBilanz.of_kind(Kind::Cls).size(), 1u);
+    EXPECT_TRUE(a.u.UeberGrafik.log().empty());
+    // Verluste_W repaints all eight facade bars.
+    neu_zeichnen(Flaeche::Verluste_W, *p, e, einstellung("d"));
+    EXPECT_FALSE(a.h.Gewinne_S.log().empty());
+    EXPECT_TRUE(a.h.Heizbilanz.log().empty());
+    // UeberGrafik repaints UeberJahr too; the cooling pair comes as a pair.
+    neu_zeichnen(Flaeche::UeberGrafik, *p, e, einstellung("d"));
+    EXPECT_FALSE(a.u.UeberJahr.log().empty());
+    neu_zeichnen(Flaeche::KuehlGradStundenJahr, *p, e, einstellung("d"));
+    EXPECT_FALSE(a.k.KuehlGradStundenMonat.log().empty());
+    EXPECT_TRUE(a.k.KuehlbedarfMonat.log().empty());
+    neu_zeichnen(Flaeche::Picture1, *p, e, einstellung("d"));
+    EXPECT_FALSE(a.lage.log().empty());
+    // Nothing is recalculated.
+    EXPECT_EQ(p->qh, qh);
+    Ergebnisebenen leer;
+    neu_zeichnen(Flaeche::Sankey, *p, leer, einstellung("d"));
 }
 
 } // namespace
