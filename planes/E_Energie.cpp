@@ -15,16 +15,30 @@ const Heizsystemzeile& E_Energie::zeile() const {
     return Heizsysteme[static_cast<std::size_t>(p_.Heizsystem - 1)];
 }
 
-void E_Energie::liste_oeffnen(const std::string& feld, const std::string* texte,
+void E_Energie::liste_oeffnen(const Label& feld, const std::string& name, const std::string* texte,
                               std::size_t anzahl) {
+    constexpr int LUECKE = 120;     // twips between the entries and at the panel's edges
+    constexpr int EINE_ZEILE = 195; // twips of one line of the list's font
+    int y = LUECKE;
     for (std::size_t i = 0; i < Label_Auswahl.size(); ++i) {
+        Label& eintrag = Label_Auswahl[i];
         const bool benutzt = i < anzahl;
-        Label_Auswahl[i].Caption = benutzt ? texte[i] : std::string();
+        eintrag.Caption = benutzt ? texte[i] : std::string();
         // Empty entries and those behind the used range stay hidden.
-        Label_Auswahl[i].Visible = benutzt && !texte[i].empty();
+        eintrag.Visible = benutzt && !texte[i].empty();
+        if (eintrag.Visible) {
+            // A long text wraps over two lines: each entry stands under its predecessor by that
+            // one's own height.
+            eintrag.Height = Texthoehe ? Texthoehe(eintrag.Caption) : EINE_ZEILE;
+            eintrag.Top = y;
+            y += eintrag.Height + LUECKE;
+        }
     }
+    Frame_Auswahl_Height = y;
+    Frame_Auswahl_Left = feld.Left;
+    Frame_Auswahl_Top = feld.Top + feld.Height;
     Frame_Auswahl_Visible = !Frame_Auswahl_Visible;
-    Auswahlfeld = feld;
+    Auswahlfeld = name;
 }
 
 void E_Energie::Command1_Click() {
@@ -32,17 +46,18 @@ void E_Energie::Command1_Click() {
     for (std::size_t i = 0; i < texte.size(); ++i) {
         texte[i] = Heizsysteme[i].Bezeichnung;
     }
-    liste_oeffnen("Label_System", texte.data(), texte.size());
+    liste_oeffnen(Label_System, "Label_System", texte.data(), texte.size());
 }
 
 void E_Energie::Command2_Click() {
     const Heizsystemzeile& z = zeile();
-    liste_oeffnen("Label_Übergabe", z.Uebergabe.data(), z.Uebergabe.size());
+    liste_oeffnen(Label_Uebergabe, "Label_Übergabe", z.Uebergabe.data(), z.Uebergabe.size());
 }
 
 void E_Energie::Command3_Click() {
     const Heizsystemzeile& z = zeile();
-    liste_oeffnen("Label_Energieträger", z.Energietraeger.data(), z.Energietraeger.size());
+    liste_oeffnen(Label_Energietraeger, "Label_Energieträger", z.Energietraeger.data(),
+                  z.Energietraeger.size());
 }
 
 void E_Energie::Label_Auswahl_Click(int index) {

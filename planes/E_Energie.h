@@ -5,6 +5,7 @@
 #include "planes/Label.h"
 
 #include <array>
+#include <functional>
 #include <string>
 
 struct Projekt;
@@ -21,6 +22,12 @@ public:
     Label Label_System, Label_Uebergabe, Label_Energietraeger; // the three chosen texts
     std::array<Label, 9> Label_Auswahl; // the list's entries 1..9 at index 0..8
     bool Frame_Auswahl_Visible = false; // the list panel
+    // Place and height of the list panel in twips: under the field it serves, as high as its
+    // stacked entries with a gap of 120 twips between and around them.
+    int Frame_Auswahl_Left = 0, Frame_Auswahl_Top = 0, Frame_Auswahl_Height = 0;
+    // The height in twips of an entry showing a text, wrapped to the panel's width; given by the
+    // window. Without it every entry has one line.
+    std::function<int(const std::string&)> Texthoehe;
     std::string Auswahlfeld; // the field the open list serves: "Label_System", "Label_Übergabe"
                              // or "Label_Energieträger"
     std::array<Heizsystemzeile, 9> Heizsysteme; // the catalogue in the language of the run
@@ -38,7 +45,8 @@ public:
     void felder_zeigen();
 
 private:
-    void liste_oeffnen(const std::string& feld, const std::string* texte, std::size_t anzahl);
+    void liste_oeffnen(const Label& feld, const std::string& name, const std::string* texte,
+                       std::size_t anzahl);
     const Heizsystemzeile& zeile() const;
 
     Projekt& p_;

@@ -13,5 +13,6 @@ struct Label {
     std::string Caption;                         // the text shown
     bool Visible = true;                         // whether it is shown
     int Left = 0, Top = 0;                       // place on its plane
+    int Height = 0;                              // height in the plane's units
     Farbe ForeColor = Farbe::Schaltflaechentext; // text colour
 };

@@ -60,3 +60,22 @@ TEST(E_Energie, StoredChoiceOutsideTheCatalogueTraps) {
     prog.p->Energietraeger = 5;
     EXPECT_THROW(prog.e->energie.felder_zeigen(), Laufzeitfehler);
 }
+
+TEST(E_Energie, ListStacksItsEntriesUnderTheField) {
+    Programm prog;
+    E_Energie& en = prog.e->energie;
+    en.Label_Uebergabe.Left = 300;
+    en.Label_Uebergabe.Top = 2000;
+    en.Label_Uebergabe.Height = 400;
+    // Texts longer than 60 characters take two lines.
+    en.Texthoehe = [](const std::string& t) { return t.size() > 60 ? 390 : 195; };
+    en.Command2_Click();
+    EXPECT_EQ(en.Auswahlfeld, "Label_Übergabe");
+    EXPECT_EQ(en.Label_Auswahl[0].Top, 120);
+    EXPECT_EQ(en.Label_Auswahl[1].Top, 120 + 390 + 120);
+    EXPECT_EQ(en.Frame_Auswahl_Height, 120 + 390 + 120 + 390 + 120);
+    EXPECT_EQ(en.Frame_Auswahl_Left, 300);
+    EXPECT_EQ(en.Frame_Auswahl_Top, 2400);
+    en.Command2_Click(); // the same button closes the list again
+    EXPECT_FALSE(en.Frame_Auswahl_Visible);
+}
