@@ -113,6 +113,7 @@ TEST(Projektdatei, TolerantListInput) {
     z[2] = "8,99";           // a comma ends the value
     z[19] = ".35";           // no blank, no zero
     z[55] = "  trier.met,x"; // a station name is cut at the comma
+    z[0] = "  Velmaris Version 3.2,cut"; // the version line is read the same way
     z.push_back("further lines are ignored");
     Programm prog;
     ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
