@@ -17,12 +17,12 @@ std::map<const Projekt*, Rechenbeobachter*>& beobachter() {
     return tabelle;
 }
 
-Rechenbeobachter* beobachter_von(const Projekt& p) {
+} // namespace
+
+Rechenbeobachter* rechenbeobachter(const Projekt& p) {
     const auto it = beobachter().find(&p);
     return it == beobachter().end() ? nullptr : it->second;
 }
-
-} // namespace
 
 void rechenbeobachter_setzen(const Projekt& p, Rechenbeobachter* b) {
     if (b == nullptr) {
@@ -35,7 +35,7 @@ void rechenbeobachter_setzen(const Projekt& p, Rechenbeobachter* b) {
 void alles_berechnen(Projekt& p) {
     geometrie_berechnen(p);
     fensterflaechen_berechnen(p);
-    if (Rechenbeobachter* b = beobachter_von(p)) {
+    if (Rechenbeobachter* b = rechenbeobachter(p)) {
         b->geometrie_berechnet(p);
     }
     // While a project is built up, areas and displays stay right and nothing else runs; whoever
@@ -47,7 +47,7 @@ void alles_berechnen(Projekt& p) {
     stundensimulation(p);
     EnergRefresh(p);
     Ausfuellen(p);
-    if (Rechenbeobachter* b = beobachter_von(p)) {
+    if (Rechenbeobachter* b = rechenbeobachter(p)) {
         b->alles_berechnet(p);
     }
 }

@@ -23,3 +23,7 @@ public:
 // Registers the one observer of the project `p` (nullptr removes it). Nothing is registered by
 // default; the registration holds the pointer only.
 void rechenbeobachter_setzen(const Projekt& p, Rechenbeobachter* beobachter);
+
+// The observer registered for the project `p`, or nullptr; one that registers itself over it
+// passes the runs on to it.
+Rechenbeobachter* rechenbeobachter(const Projekt& p);

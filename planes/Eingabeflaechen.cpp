@@ -10,7 +10,10 @@ Eingabeflaechen::Eingabeflaechen(Projekt& p, char dezimal_zeichen)
 }
 
 Eingabeflaechen::~Eingabeflaechen() {
-    rechenbeobachter_setzen(p_, nullptr);
+    // An observer that registered over the planes keeps its place.
+    if (rechenbeobachter(p_) == this) {
+        rechenbeobachter_setzen(p_, nullptr);
+    }
 }
 
 void Eingabeflaechen::geometrie_berechnet(Projekt&) {

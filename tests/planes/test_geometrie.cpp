@@ -97,3 +97,21 @@ TEST(E_Geometrie, OrientationAndAVChart) {
     EXPECT_EQ(g.av_anz.Top, 5);
     EXPECT_EQ(g.av_anz.Caption.back(), ' ');
 }
+
+TEST(Eingabeflaechen, AnObserverRegisteredOverThePlanesKeepsItsPlace) {
+    struct Danach : Rechenbeobachter {
+        Rechenbeobachter* vorher = nullptr;
+        void geometrie_berechnet(Projekt& p) override { vorher->geometrie_berechnet(p); }
+        void alles_berechnet(Projekt& p) override { vorher->alles_berechnet(p); }
+    } danach;
+    auto p = leeres_projekt();
+    {
+        Eingabeflaechen ebenen(*p);
+        EXPECT_EQ(rechenbeobachter(*p), &ebenen);
+        danach.vorher = rechenbeobachter(*p);
+        rechenbeobachter_setzen(*p, &danach);
+    }
+    EXPECT_EQ(rechenbeobachter(*p), &danach);
+    rechenbeobachter_setzen(*p, nullptr);
+    EXPECT_EQ(rechenbeobachter(*p), nullptr);
+}
