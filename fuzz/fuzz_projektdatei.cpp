@@ -51,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t laenge) {
         if (datei_lesen(*p, ebenen, dialogs,
                         std::string_view(reinterpret_cast<const char*>(daten), laenge))) {
             p->Klimaauswahl = 0;
-            eingaben_anzeigen(*p, ebenen);
+            eingaben_anzeigen(*p, ebenen, dialogs);
         }
         datei_schreiben(*p);
     } catch (const Laufzeitfehler&) {

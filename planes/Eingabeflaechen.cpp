@@ -6,6 +6,7 @@
 Eingabeflaechen::Eingabeflaechen(Projekt& p, char dezimal_zeichen)
     : dezimal(dezimal_zeichen), daemmung(p, dezimal), fenster(p, dezimal),
       geometrie(p, daemmung, dezimal), gebaeude(p, fenster, dezimal), energie(p), p_(p) {
+    E_Klima_erstellen(klima, p);
     rechenbeobachter_setzen(p_, this);
 }
 

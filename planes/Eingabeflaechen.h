@@ -2,6 +2,7 @@
 #pragma once
 
 #include "calc/c_mod.h"
+#include "climate/E_Klima.h"
 #include "planes/E_Daemmung.h"
 #include "planes/E_Energie.h"
 #include "planes/E_Fenster.h"
@@ -27,6 +28,7 @@ public:
     E_Geometrie geometrie;
     E_Gebaeude gebaeude;
     E_Energie energie;
+    E_Klima klima; // station lists of p.KlimaOrdner as at construction
 
     // How many driver runs the planes have seen, whole runs among them.
     int laeufe = 0;

@@ -110,7 +110,7 @@ void FILEIO::aufbauen() {
     p_.FormLoadGuard = -1;
     neues_projekt();
     klimadatei_lesen(p_);
-    eingaben_anzeigen(p_, e_);
+    eingaben_anzeigen(p_, e_, d_);
     p_.FormLoadGuard = 0;
     alles_berechnen(p_);
     d_.wartecursor(false);
@@ -162,8 +162,12 @@ void FILEIO::datei_oeffnen(const std::string& pfad) {
         p_.Geaendert = 0;
         p_.FormLoadGuard = -1;
         datei_lesen(p_, e_, d_, text);
-        wetter_laden(p_);
-        eingaben_anzeigen(p_, e_);
+        // A station that is in no list is not read here: the climate option's handler in
+        // eingaben_anzeigen tells the user and loads its default instead.
+        if (e_.klima.listen.Welt.suchen(p_.Klimadatei) >= 0) {
+            wetter_laden(p_);
+        }
+        eingaben_anzeigen(p_, e_, d_);
         p_.FormLoadGuard = 0;
         alles_berechnen(p_);
         if (p_.Datei != UNBENANNT) {
@@ -235,7 +239,7 @@ bool FILEIO::datei_speichern_unter() {
         schreiben();
         p_.Datei_offen = 1;
         offene_datei_ = p_.Datei;
-        eingaben_anzeigen(p_, e_);
+        eingaben_anzeigen(p_, e_, d_);
     } catch (const std::runtime_error&) {
         // A write fault, or a fault of the recalculation after the write.
         d_.wartecursor(false);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/eingaben_anzeigen.h"
 
-#include "climate/wetter_laden.h"
+#include "climate/E_Klima.h"
 #include "planes/Eingabeflaechen.h"
 #include "planes/Zahlformat.h"
 #include "project/c_glob.h"
@@ -79,16 +79,26 @@ void gebaeude(Projekt& p, E_Gebaeude& g, char dezimal) {
 
 } // namespace
 
-void eingaben_anzeigen(Projekt& p, Eingabeflaechen& e) {
+void eingaben_anzeigen(Projekt& p, Eingabeflaechen& e, Dialogs& d) {
     geometrie(p, e.geometrie);
     daemmung(p, e.daemmung, e.dezimal);
     fenster(p, e.fenster);
     gebaeude(p, e.gebaeude, e.dezimal);
     e.energie.felder_zeigen();
-    // The climate option of the project loads its station; the scope handlers of the climate
-    // plane take this over once that plane is bound here.
-    if (p.Klimaauswahl >= 1 && p.Klimaauswahl <= 3) {
-        wetter_laden(p);
+    // The climate option of the project: set or already set, its handler runs and reconciles
+    // the station with its scope; it reloads only where the station is in no list of it.
+    switch (p.Klimaauswahl) {
+    case 1:
+        Option1_Click(e.klima, p, d, true);
+        break;
+    case 2:
+        Option2_Click(e.klima, p, d, true);
+        break;
+    case 3:
+        Option3_Click(e.klima, p, d, true);
+        break;
+    default:
+        break;
     }
     p.Geaendert = 0;
 }

@@ -314,3 +314,19 @@ TEST(FILEIO, CommandLine) {
     EXPECT_EQ(zweites.p->AppPfad, "/prog");
     EXPECT_EQ(zweites.io->hilfe_datei(), "/prog/Velmaris_d.chm");
 }
+
+TEST(FILEIO, MissingStationOfTheProjectFallsBackWithTheClimateMessage) {
+    for (const char* auswahl : {" 1", " 2"}) {
+        Programm prog;
+        prog.ordner.schreiben("k.vel", projektdatei(prog, {{56, "gibtsnicht.met"}, {64, auswahl}}));
+        prog.io->datei_oeffnen(prog.pfad("k.vel"));
+        ASSERT_EQ(prog.dialogs.nachrichten.size(), 1u) << auswahl;
+        EXPECT_EQ(prog.dialogs.nachrichten[0].titel, prog.p->txt_Klima_Titel);
+        EXPECT_EQ(prog.dialogs.nachrichten[0].text, prog.p->txt_Klima_fehlt);
+        // Germany falls back to region 4; Europe draws from its only station, the same file.
+        EXPECT_EQ(prog.p->Klimadatei, "trier.met") << auswahl;
+        EXPECT_EQ(prog.dialogs.titel, "Velmaris - K.VEL");
+        EXPECT_EQ(prog.p->FormLoadGuard, 0);
+        EXPECT_GT(prog.p->qh, 0);
+    }
+}
