@@ -2,19 +2,11 @@
 #include "charts/Geometriebilder.h"
 
 #include "charts/Surface.h"
+#include "planes/E_Geometrie.h"
 #include "project/c_glob.h"
 
 #include <algorithm>
 #include <cmath>
-
-int av_balken_y(const Projekt& p) {
-    const double c = std::pow(static_cast<double>(p.v_geb), 1.0 / 3);
-    const double y = std::nearbyint(123 - (p.AV * c - 2.88) / 0.06);
-    if (!(y >= 7)) {
-        return 7;
-    }
-    return static_cast<int>(std::min(y, 32767.0));
-}
 
 void AV_diagramm(const Projekt& p, Surface& s, const ChartTheme& t) {
     const int y = av_balken_y(p);

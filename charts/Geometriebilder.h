@@ -8,10 +8,6 @@
 struct Projekt;
 class Surface;
 
-// The row of the top of the A/V bar: the compactness AV * v_geb^(1/3) on a scale of 0.06 per
-// pixel with 2.88 (a sphere's value less one) at row 123, rounded half to even, at least 7.
-int av_balken_y(const Projekt& p);
-
 // The A/V bar on AV_Picture: red from row 123 up to av_balken_y, white above it up to row 7, so
 // that the scale of the bodies drawn behind it stays visible. Nothing else is cleared.
 void AV_diagramm(const Projekt& p, Surface& AV_Picture, const ChartTheme& thema);

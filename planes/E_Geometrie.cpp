@@ -122,10 +122,18 @@ void E_Geometrie::anzeigen() {
     v_geb_anz.Caption = " " + zahl(p_.v_geb);
 }
 
+int av_balken_y(const Projekt& p) {
+    const double c = std::pow(static_cast<double>(p.v_geb), 1.0 / 3);
+    const double y = std::nearbyint(123 - (p.AV * c - 2.88) / 0.06);
+    if (!(y >= 7)) {
+        return 7;
+    }
+    return static_cast<int>(std::min(y, 32767.0));
+}
+
 void E_Geometrie::AV_diagramm() {
     const double c = std::pow(static_cast<double>(p_.v_geb), 1.0 / 3);
-    const double y_roh = std::nearbyint(123 - (p_.AV * c - 2.88) / 0.06);
-    int y = y_roh < 7 ? 7 : static_cast<int>(std::fmin(y_roh, 32767));
+    const int y = ::av_balken_y(p_);
     av_balken_y = y;
     av_anz.Top = std::max(y - 8, 5);
     av_anz.Caption = format_muster(p_.AV, "0.00", dezimal_) + " ";

@@ -14,6 +14,10 @@ class E_Daemmung;
 // The geometry plane: length, width, height, floors, roof and orientation of the building. Each
 // scroll handler marks the project changed, stores its value by the field's factor and runs the
 // driver; the roof check and the ridge options carry the roof logic.
+// The row of the top of the A/V bar: the compactness AV * v_geb^(1/3) on a scale of 0.06 per
+// pixel with 2.88 (a sphere's value less one) at row 123, rounded half to even, at least 7.
+int av_balken_y(const Projekt& p);
+
 class E_Geometrie {
 public:
     // `daemmung` is the insulation plane whose upper closure follows the roof; `dezimal` the

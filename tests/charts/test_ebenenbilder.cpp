@@ -4,6 +4,7 @@
 
 #include "charts/Energiebilder.h"
 #include "charts/Geometriebilder.h"
+#include "planes/E_Geometrie.h"
 #include "tests/charts/Diagrammhilfe.h"
 
 #include "calc/c_mod.h"
