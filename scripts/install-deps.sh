@@ -5,6 +5,7 @@ set -euo pipefail
 pakete=(
     cmake ninja-build g++ pkg-config clang libclang-rt-14-dev
     libgtest-dev libgmock-dev libbenchmark-dev
+    qt6-base-dev libgl-dev fonts-liberation xvfb xauth
 )
 
 fehlend=()

@@ -20,6 +20,6 @@ ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 
 CC=clang CXX=clang++ cmake -S . -B build/fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DVELMARIS_WERROR=ON -DVELMARIS_SANITIZE=ON -DVELMARIS_FUZZ=ON -DVELMARIS_TESTS=OFF \
-    -DVELMARIS_BENCHMARKS=OFF >/dev/null
+    -DVELMARIS_BENCHMARKS=OFF -DVELMARIS_GUI=OFF >/dev/null
 cmake --build build/fuzz -j "$jobs"
 ctest --test-dir build/fuzz --output-on-failure -j "$jobs"

@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The desktop program driven through its real widgets on the offscreen platform.
+#include "language/Beschriftungen.h"
+#include "planes/Eingabeflaechen.h"
+#include "project/c_glob.h"
+#include "tests/project/SkriptDialogs.h"
+#include "tests/support/Testprojekt.h"
+#include "ui/Desktopprogramm.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QtTest>
+
+#include <filesystem>
+#include <fstream>
+
+class TestHauptfenster : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<SkriptDialogs> dialoge;
+    std::unique_ptr<Desktopprogramm> programm;
+
+    // The program started fast in `sprache`, the main window shown.
+    void starten(const char* sprache) {
+        dialoge = std::make_unique<SkriptDialogs>();
+        programm = std::make_unique<Desktopprogramm>(dialoge.get());
+        programm->starten(sprache);
+        QVERIFY(programm->haupt->isVisible());
+    }
+    template <class W> W* finden(QWidget* in, const char* name) {
+        W* w = in->findChild<W*>(QString::fromUtf8(name));
+        if (w == nullptr) {
+            qFatal("no widget %s", name);
+        }
+        return w;
+    }
+    QWidget* ebene(int i) { return programm->haupt->eingabe[static_cast<std::size_t>(i)]; }
+
+private slots:
+    void cleanup() {
+        programm.reset();
+        dialoge.reset();
+    }
+
+    void laenge_bewegt_anzeige_und_flaechen() {
+        starten("d");
+        Projekt& p = programm->p;
+        QWidget* geo = ebene(Hauptfenster::Geometrie);
+        auto* l_sb = finden<QScrollBar>(geo, "l_sb");
+        auto* l_anz = finden<QLabel>(geo, "l_anz");
+        QCOMPARE(l_anz->text(), QStringLiteral("Länge: 10,0 m"));
+        // The arrow moves by 1.0 m, a page click by 2.0 m.
+        l_sb->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        QCOMPARE(l_sb->value(), 110);
+        QCOMPARE(p.l, 11.0f);
+        QCOMPARE(l_anz->text(), QStringLiteral("Länge: 11,0 m"));
+        l_sb->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        QCOMPARE(p.l, 13.0f);
+        QCOMPARE(l_anz->text(), QStringLiteral("Länge: 13,0 m"));
+        // The south facade is length times height, the ground area length times width.
+        QCOMPARE(finden<QLabel>(geo, "f_nfa_anz")->text(), QStringLiteral(" 67,6"));
+        QCOMPARE(finden<QLabel>(geo, "f_gd_anz")->text(), QStringLiteral(" 130,0"));
+        // A drag to a position.
+        l_sb->setSliderPosition(250);
+        QCOMPARE(p.l, 25.0f);
+        QCOMPARE(l_anz->text(), QStringLiteral("Länge: 25,0 m"));
+        QCOMPARE(p.Geaendert, int16_t{1});
+    }
+
+    void senkrechte_seitenschritte_sind_umgekehrt() {
+        starten("d");
+        Projekt& p = programm->p;
+        auto* h_sb = finden<QScrollBar>(ebene(Hauptfenster::Geometrie), "h_sb");
+        const float h = p.h;
+        // A click below the handle moves the field up: the height grows by 2.0 m.
+        h_sb->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        QCOMPARE(p.h, h + 2.0f);
+        // The arrow down makes the building lower by 0.2 m.
+        h_sb->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        QCOMPARE(p.h, static_cast<float>((h_sb->value()) * -0.1));
+        QVERIFY(std::abs(p.h - (h + 1.8f)) < 1e-4f);
+    }
+
+    void beheiztes_dach_zeigt_dachfelder() {
+        starten("d");
+        Projekt& p = programm->p;
+        QWidget* geo = ebene(Hauptfenster::Geometrie);
+        auto* hd_sb = finden<QScrollBar>(geo, "hd_sb");
+        QVERIFY(!hd_sb->isVisible());
+        QVERIFY(!finden<QLabel>(geo, "Label4")->isVisible());
+        QVERIFY(!finden<QGroupBox>(geo, "Frame3")->isEnabled());
+        QTest::mouseClick(finden<QCheckBox>(geo, "Check_Dachgeschoss"), Qt::LeftButton);
+        QVERIFY(hd_sb->isVisible());
+        QVERIFY(finden<QLabel>(geo, "Label4")->isVisible());
+        QVERIFY(finden<QLabel>(geo, "Label9")->isVisible());
+        QVERIFY(finden<QGroupBox>(geo, "Frame3")->isEnabled());
+        QCOMPARE(p.hd, 1.0f);
+        QCOMPARE(hd_sb->value(), -10);
+        // The insulation plane's upper closure is now the roof.
+        QCOMPARE(finden<QLabel>(ebene(Hauptfenster::Daemmung), "liste2")->text(),
+                 QStringLiteral("Dach"));
+        // The ridge east-west moves the labels over the house picture.
+        QTest::mouseClick(finden<QRadioButton>(geo, "Option_Dachfirst(2)"), Qt::LeftButton);
+        QCOMPARE(finden<QLabel>(geo, "Label6")->text(), QStringLiteral("Dachfläche (Süd):"));
+        QCOMPARE(finden<QLabel>(geo, "Label6")->pos(), QPoint(68, 48));
+        QVERIFY(finden<QRadioButton>(geo, "Option_Dachfirst(2)")->isChecked());
+        QVERIFY(!finden<QRadioButton>(geo, "Option_Dachfirst(1)")->isChecked());
+        QTest::mouseClick(finden<QCheckBox>(geo, "Check_Dachgeschoss"), Qt::LeftButton);
+        QCOMPARE(p.hd, 0.0f);
+        QVERIFY(!hd_sb->isVisible());
+    }
+
+    void suedfassade_bewegt_alle_im_modus_gleiche_fenster() {
+        starten("d");
+        Projekt& p = programm->p;
+        programm->haupt->eingabe_knopf[Hauptfenster::Fenster]->click();
+        QWidget* fe = ebene(Hauptfenster::Fenster);
+        QTest::mouseClick(finden<QRadioButton>(fe, "Option1(0)"), Qt::LeftButton);
+        QVERIFY(finden<QRadioButton>(fe, "Option1(0)")->isChecked());
+        // The frame share of the south panel goes to every facade, on the screen too.
+        auto* sued = finden<QScrollBar>(fe, "ra_sb(1)");
+        const int vorher = sued->value();
+        sued->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        QCOMPARE(sued->value(), vorher + 20);
+        for (int i = 0; i < 4; ++i) {
+            const QString name = QStringLiteral("ra_sb(%1)").arg(i);
+            QCOMPARE(fe->findChild<QScrollBar*>(name)->value(), vorher + 20);
+        }
+        const float ra = static_cast<float>((vorher + 20) / 100.0);
+        QCOMPARE(p.ran, ra);
+        QCOMPARE(p.rao, ra);
+        QCOMPARE(p.raw, ra);
+        // The window share belongs to its facade in every mode.
+        auto* anteil = finden<QScrollBar>(fe, "f_sb(1)");
+        const int nord = finden<QScrollBar>(fe, "f_sb(0)")->value();
+        anteil->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        QCOMPARE(finden<QScrollBar>(fe, "f_sb(0)")->value(), nord);
+        // The glazing U value of the south panel goes to every facade too.
+        auto* kfg = finden<QScrollBar>(fe, "kfg_sb(1)");
+        kfg->triggerAction(QAbstractSlider::SliderPageStepSub);
+        QCOMPARE(finden<QScrollBar>(fe, "kfg_sb(3)")->value(), kfg->value());
+    }
+
+    void wand_gegen_beheizt_sperrt_fensteranteil() {
+        starten("d");
+        QWidget* fe = ebene(Hauptfenster::Fenster);
+        QWidget* geb = ebene(Hauptfenster::Gebaeude);
+        programm->haupt->eingabe_knopf[Hauptfenster::Gebaeude]->click();
+        QVERIFY(finden<QScrollBar>(fe, "f_sb(2)")->isEnabled());
+        QTest::mouseClick(finden<QCheckBox>(geb, "awo_cb"), Qt::LeftButton);
+        QVERIFY(!finden<QScrollBar>(fe, "f_sb(2)")->isEnabled());
+        QVERIFY(finden<QScrollBar>(fe, "f_sb(0)")->isEnabled());
+        QTest::mouseClick(finden<QCheckBox>(geb, "awo_cb"), Qt::LeftButton);
+        QVERIFY(finden<QScrollBar>(fe, "f_sb(2)")->isEnabled());
+    }
+
+    void schliessen_fragt_nach_aenderungen() {
+        starten("d");
+        TempOrdner ordner;
+        auto* l_sb = finden<QScrollBar>(ebene(Hauptfenster::Geometrie), "l_sb");
+        Hauptfenster& haupt = *programm->haupt;
+        // Unchanged: no question.
+        QVERIFY(haupt.close());
+        QVERIFY(dialoge->nachrichten.empty());
+        haupt.show();
+        l_sb->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        // Cancel keeps the window.
+        dialoge->antworten = {Dialogs::Antwort::Abbrechen};
+        QVERIFY(!haupt.close());
+        QVERIFY(haupt.isVisible());
+        QCOMPARE(dialoge->nachrichten.back().titel, std::string("Änderungen speichern ?"));
+        QCOMPARE(dialoge->nachrichten.back().knoepfe, Dialogs::Knoepfe::JaNeinAbbrechen);
+        // Yes asks for a name and saves there before the window goes.
+        const std::string datei = (ordner.pfad() / "haus.vel").string();
+        dialoge->antworten = {Dialogs::Antwort::Ja};
+        dialoge->dateien = {datei};
+        QVERIFY(haupt.close());
+        QVERIFY(std::filesystem::exists(datei));
+        QCOMPARE(programm->p.Geaendert, int16_t{0});
+        // No lets it close without saving.
+        haupt.show();
+        l_sb->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        const std::size_t gefragt = dialoge->nachrichten.size();
+        dialoge->antworten = {Dialogs::Antwort::Nein};
+        QVERIFY(haupt.close());
+        QCOMPARE(dialoge->nachrichten.size(), gefragt + 1);
+        QCOMPARE(programm->p.Geaendert, int16_t{1});
+    }
+
+    void englischer_start_uebersetzt_jedes_fenster() {
+        starten("e");
+        QCOMPARE(programm->unuebersetzt, 0);
+        Hauptfenster& haupt = *programm->haupt;
+        QCOMPARE(dialoge->titel, std::string("Velmaris - [no name]"));
+        QCOMPARE(haupt.findChild<QAction*>("mnuFile")->text(), QStringLiteral("File"));
+        QCOMPARE(haupt.findChild<QAction*>("mnuQuestInfo")->text(), QStringLiteral("Info"));
+        QCOMPARE(haupt.eingabe_knopf[Hauptfenster::Daemmung]->text(), QStringLiteral("Insulation"));
+        QCOMPARE(haupt.ausgabe_knopf[Hauptfenster::Uebersicht]->text(), QStringLiteral("Preview"));
+        QVERIFY(haupt.mnuSpracheEnglisch->isChecked());
+        QVERIFY(!haupt.mnuSpracheDeutsch->isChecked());
+        QCOMPARE(finden<QLabel>(ebene(Hauptfenster::Geometrie), "l_anz")->text(),
+                 QStringLiteral("length: 10.0 m"));
+        // No German caption of a translated window is left on the screen.
+        const std::array<std::pair<const char*, QWidget*>, 7> fenster{{
+            {"Haupt", &haupt},
+            {"E_Menue", haupt.E_Menue},
+            {"A_Menue", haupt.A_Menue},
+            {"E_Geometrie", ebene(Hauptfenster::Geometrie)},
+            {"E_Fenster", ebene(Hauptfenster::Fenster)},
+            {"E_Daemmung", ebene(Hauptfenster::Daemmung)},
+            {"E_Gebaeude", ebene(Hauptfenster::Gebaeude)},
+        }};
+        for (const auto& [name, w] : fenster) {
+            QStringList uebrig;
+            for (const Beschriftung& b : beschriftungen(name)) {
+                if (b.Deutsch.empty() || b.Deutsch == b.Englisch) {
+                    continue;
+                }
+                const QString deutsch =
+                    QString::fromUtf8(b.Deutsch.data(), static_cast<int>(b.Deutsch.size()));
+                for (QObject* o : w->findChildren<QObject*>()) {
+                    const auto* l = qobject_cast<QLabel*>(o);
+                    const auto* k = qobject_cast<QAbstractButton*>(o);
+                    const auto* g = qobject_cast<QGroupBox*>(o);
+                    const auto* a = qobject_cast<QAction*>(o);
+                    if ((l && l->text() == deutsch) || (k && k->text() == deutsch) ||
+                        (g && g->title() == deutsch) || (a && a->text() == deutsch)) {
+                        uebrig << deutsch;
+                    }
+                }
+            }
+            QVERIFY2(uebrig.isEmpty(), qPrintable(QString::fromUtf8(name) + ": " +
+                                                  uebrig.join(QStringLiteral(", "))));
+        }
+    }
+
+    void sprachmenue_wirkt_beim_naechsten_start() {
+        starten("d");
+        Hauptfenster& haupt = *programm->haupt;
+        const std::string datei = programm->p.KlimaOrdner + "/typ.dat";
+        const bool gab_es = std::filesystem::exists(datei);
+        std::string vorher;
+        if (gab_es) {
+            std::ifstream(datei) >> vorher;
+        }
+        haupt.mnuSpracheEnglisch->trigger();
+        QVERIFY(haupt.mnuSpracheEnglisch->isChecked());
+        QVERIFY(!haupt.mnuSpracheDeutsch->isChecked());
+        QCOMPARE(dialoge->nachrichten.size(), std::size_t{1});
+        // The captions stay German for this run.
+        QCOMPARE(haupt.eingabe_knopf[Hauptfenster::Daemmung]->text(), QStringLiteral("Dämmung"));
+        if (gab_es) {
+            std::ofstream(datei) << vorher << "\n";
+        } else {
+            std::filesystem::remove(datei);
+        }
+    }
+
+    void ebenenknopf_gesperrt_solange_ebene_gezeigt() {
+        starten("d");
+        Hauptfenster& haupt = *programm->haupt;
+        QVERIFY(!haupt.eingabe_knopf[Hauptfenster::Geometrie]->isEnabled());
+        haupt.findChild<QAction*>("mnuWinDaem")->trigger();
+        QVERIFY(ebene(Hauptfenster::Daemmung)->isVisible());
+        QVERIFY(!ebene(Hauptfenster::Geometrie)->isVisible());
+        QVERIFY(!haupt.eingabe_knopf[Hauptfenster::Daemmung]->isEnabled());
+        QVERIFY(haupt.eingabe_knopf[Hauptfenster::Geometrie]->isEnabled());
+        // The same entry again: the plane stays, its button stays disabled.
+        haupt.findChild<QAction*>("mnuWinDaem")->trigger();
+        QVERIFY(ebene(Hauptfenster::Daemmung)->isVisible());
+        QVERIFY(!haupt.eingabe_knopf[Hauptfenster::Daemmung]->isEnabled());
+        haupt.ausgabe_knopf[Hauptfenster::Heizen]->click();
+        QVERIFY(haupt.ausgabe[Hauptfenster::Heizen]->isVisible());
+        QVERIFY(!haupt.ausgabe[Hauptfenster::Uebersicht]->isVisible());
+    }
+};
+
+QTEST_MAIN(TestHauptfenster)
+#include "test_hauptfenster.moc"

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Desktopprogramm.h"
+
+#include "app/cli/pfade.h"
+#include "charts/Neuzeichnen.h"
+#include "language/c_Sprache.h"
+#include "project/FatalError.h"
+#include "project/c_glob.h"
+#include "project/eingaben_anzeigen.h"
+#include "ui/ChartWidget.h"
+#include "ui/Uebersetzen.h"
+
+#include <QApplication>
+
+namespace {
+
+// The anchors of the help by input plane, in the order of E_Menue.
+constexpr std::array<const char*, 6> HILFE_ANKER{"geometrie", "fenster", "daemmung",
+                                                 "gebaeude",  "klima",   "energie"};
+
+} // namespace
+
+Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
+    : p(projekt()), dialoge_(dialoge != nullptr ? dialoge : &qt_dialoge_),
+      sprachwahl_(std::move(sprachwahl)) {
+    // The planes were laid out for the small system sans of 8 points.
+    QApplication::setFont(QtImageSurface::schrift("MS Sans Serif", 8.25, false));
+}
+
+Desktopprogramm::~Desktopprogramm() {
+    // The refresh table gives the observer back to the planes before they go.
+    auffrischen_.reset();
+    haupt.reset();
+    io.reset();
+    ebenen.reset();
+}
+
+void Desktopprogramm::starten(const std::string& befehlszeile) {
+    befehlszeile_ = befehlszeile;
+    p.KlimaOrdner = datenordner("klima");
+    const std::string grafiken = datenordner("Grafiken");
+    Sprachwahl wahl = sprachwahl_;
+    if (!wahl) {
+        wahl = [grafiken] {
+            Sprachwahl_Fenster f(grafiken);
+            f.exec();
+            return f.gewaehlt;
+        };
+    }
+    const bool schnell = sprache_beim_start(p, befehlszeile, wahl);
+    // Closed without a choice: the design's language, so that every window has its texts.
+    if (p.Sprache != "d" && p.Sprache != "e") {
+        p.Sprache = "d";
+        sprachtexte_setzen(p);
+    }
+    einstellung_.Sprache = p.Sprache;
+    einstellung_.dezimal = p.Sprache == "e" ? '.' : ',';
+    ebenen = std::make_unique<Eingabeflaechen>(p, einstellung_.dezimal);
+    io = std::make_unique<FILEIO>(p, *ebenen, *dialoge_);
+    fenster_bauen();
+
+    start = std::make_unique<StartFenster>([this] { Timer1_Timer(); },
+                                           [this] { return p.Gestartet == 1; });
+    if (p.Sprache == "e") {
+        unuebersetzt += fenster_uebersetzen(*start, "Start");
+    }
+    start->infotext_setzen(p.Sprache);
+    if (schnell) {
+        Timer1_Timer();
+        return;
+    }
+    start->show();
+    start->Timer1.start();
+}
+
+void Desktopprogramm::Timer1_Timer() {
+    dialoge_->wartecursor(true);
+    bindungen->ausfuehren([this] { io->start(befehlszeile_, programmordner()); });
+    start->hide();
+    start->Timer1.stop();
+    p.Gestartet = 1;
+    dialoge_->wartecursor(false);
+    haupt->show();
+}
+
+void Desktopprogramm::fenster_bauen() {
+    haupt = std::make_unique<Hauptfenster>();
+    qt_dialoge_.fenster = haupt.get();
+    qt_dialoge_.erste_ebenen = [this] {
+        haupt->eingabe_zeigen(Hauptfenster::Geometrie);
+        haupt->ausgabe_zeigen(Hauptfenster::Uebersicht);
+    };
+    bindungen = std::make_unique<Bindungen>([this](const std::string& t) { fehler_zeigen(t); },
+                                            [this] { nach_aktion(); });
+
+    const std::string grafiken = datenordner("Grafiken");
+    Ebenenbau bau;
+    geometrie_diagramme =
+        geometrie_bauen(*haupt->eingabe[Hauptfenster::Geometrie], ebenen->geometrie, grafiken, bau);
+    ::fenster_bauen(*haupt->eingabe[Hauptfenster::Fenster], ebenen->fenster, bau);
+    daemmung_bauen(*haupt->eingabe[Hauptfenster::Daemmung], ebenen->daemmung, bau);
+    gebaeude_bauen(*haupt->eingabe[Hauptfenster::Gebaeude], ebenen->gebaeude, bau);
+    diagramme_ = bau.diagramme;
+
+    // English is laid over the German design, window by window, before the models are bound,
+    // so that the texts the planes write themselves win.
+    if (p.Sprache == "e") {
+        unuebersetzt += fenster_uebersetzen(*haupt, "Haupt");
+        unuebersetzt += fenster_uebersetzen(*haupt->E_Menue, "E_Menue");
+        unuebersetzt += fenster_uebersetzen(*haupt->A_Menue, "A_Menue");
+        const std::array<const char*, 4> namen{"E_Geometrie", "E_Fenster", "E_Daemmung",
+                                               "E_Gebaeude"};
+        for (std::size_t i = 0; i < namen.size(); ++i) {
+            unuebersetzt += fenster_uebersetzen(*haupt->eingabe[i], namen[i]);
+        }
+    }
+    for (const auto& b : bau.binden) {
+        b(*bindungen);
+    }
+    sprachmenue = std::make_unique<Sprachmenue>(p);
+    bindungen->folgen([this] {
+        haupt->mnuSpracheDeutsch->setChecked(sprachmenue->mnuSpracheDeutsch);
+        haupt->mnuSpracheEnglisch->setChecked(sprachmenue->mnuSpracheEnglisch);
+    });
+
+    // The charts the driver redraws while their plane is shown.
+    geometrie_flaechen_ = std::make_unique<GeometrieFlaechen>(GeometrieFlaechen{
+        geometrie_diagramme.AV_Picture->flaeche(), geometrie_diagramme.Picture1->flaeche()});
+    Ergebnisebenen x;
+    x.geometrie = geometrie_flaechen_.get();
+    auffrischen_ = std::make_unique<Auffrischtabelle>(
+        p, x,
+        [this](Ebene e) {
+            return e == Ebene::Geometrie && haupt->eingabe_gezeigt() == Hauptfenster::Geometrie;
+        },
+        einstellung_, ebenen.get());
+    geometrie_diagramme.Picture1->zeichnen = [this] {
+        Ergebnisebenen e;
+        e.geometrie = geometrie_flaechen_.get();
+        neu_zeichnen(Flaeche::Picture1, p, e, einstellung_);
+    };
+    geometrie_diagramme.AV_Picture->zeichnen = [this] {
+        Ergebnisebenen e;
+        e.geometrie = geometrie_flaechen_.get();
+        geometrie_diagramme.AV_Picture->flaeche().Cls();
+        neu_zeichnen(Flaeche::AV_Picture, p, e, einstellung_);
+    };
+
+    // The menu.
+    auto befehl = [this](std::function<void()> f) {
+        return [this, f] { bindungen->ausfuehren(f); };
+    };
+    haupt->neu = befehl([this] { io->datei_neu(); });
+    haupt->oeffnen = befehl([this] { io->datei_oeffnen(std::string()); });
+    haupt->speichern = befehl([this] { io->datei_speichern(); });
+    haupt->speichern_unter = befehl([this] { io->datei_speichern_unter(); });
+    haupt->beenden = [this] {
+        bool ende = false;
+        bindungen->ausfuehren([this, &ende] { ende = io->programm_beenden(); });
+        if (ende) {
+            haupt->schliessen_erlaubt = nullptr;
+            QApplication::quit();
+        }
+    };
+    haupt->schliessen_erlaubt = [this] {
+        int16_t abbruch = 0;
+        bindungen->ausfuehren([this, &abbruch] { abbruch = io->aenderung_abfragen(); });
+        return abbruch != 1;
+    };
+    haupt->sprache = [this](const char* buchstabe) {
+        bindungen->ausfuehren([this, buchstabe] { sprachmenue->klick(p, *dialoge_, buchstabe); });
+    };
+    haupt->hilfe = [this] { hilfe_zeigen(); };
+    haupt->info = [this] { start->exec(); };
+    haupt->ebene_gezeigt = [this] {
+        // The planes' own flags tell the driver's observers what is on the screen.
+        const int e = haupt->eingabe_gezeigt();
+        ebenen->geometrie.Visible = e == Hauptfenster::Geometrie;
+        ebenen->fenster.Visible = e == Hauptfenster::Fenster;
+        // A plane that comes up recalculates and draws its sketch anew.
+        if (bindungen && p.Gestartet == 1 && haupt->eingabe_gezeigt() == Hauptfenster::Geometrie) {
+            bindungen->ausfuehren([this] { alles_berechnen(p); });
+        }
+    };
+    haupt->ebene_gezeigt();
+    bindungen->abgleichen();
+}
+
+void Desktopprogramm::fehler_zeigen(const std::string& text) {
+    fehler = text;
+    for (ChartWidget* c : diagramme_) {
+        c->gueltig_setzen(false);
+    }
+    dialoge_->wartecursor(false);
+    dialoge_->nachricht(text, "Velmaris", Dialogs::Symbol::Ausrufezeichen, Dialogs::Knoepfe::OK);
+}
+
+void Desktopprogramm::nach_aktion() {
+    fehler.clear();
+    for (ChartWidget* c : diagramme_) {
+        c->gueltig_setzen(true);
+    }
+    if (haupt->eingabe_gezeigt() == Hauptfenster::Geometrie) {
+        Ergebnisebenen e;
+        e.geometrie = geometrie_flaechen_.get();
+        neu_zeichnen(Flaeche::Picture1, p, e, einstellung_);
+    }
+    for (ChartWidget* c : diagramme_) {
+        if (c->isVisible()) {
+            c->update();
+        }
+    }
+}
+
+void Desktopprogramm::hilfe_zeigen() {
+    if (!hilfe) {
+        hilfe = std::make_unique<Hilfefenster>(datenordner("help") + "/velmaris_" + p.Sprache +
+                                               ".html");
+    }
+    hilfe->zeigen(HILFE_ANKER[static_cast<std::size_t>(haupt->eingabe_gezeigt())]);
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "charts/Auffrischtabelle.h"
+#include "charts/Flaechen.h"
+#include "language/c_Sprache.h"
+#include "planes/Eingabeflaechen.h"
+#include "project/FILEIO.h"
+#include "ui/Bindungen.h"
+#include "ui/Ebenen.h"
+#include "ui/Hauptfenster.h"
+#include "ui/Hilfefenster.h"
+#include "ui/QtDialogs.h"
+#include "ui/StartFenster.h"
+
+#include <memory>
+#include <string>
+
+struct Projekt;
+
+// The desktop program on the record projekt(): the language of the run, the planes and their
+// widgets, the project commands, the start window and the help. Faults of the calculation are
+// shown and leave the results marked as not valid until the next change calculates anew.
+class Desktopprogramm {
+public:
+    // `dialoge` answers the project's dialogs; without it Qt's message boxes and file dialogs
+    // do. `sprachwahl` stands for the language window of a first start when given.
+    explicit Desktopprogramm(Dialogs* dialoge = nullptr, Sprachwahl sprachwahl = nullptr);
+    ~Desktopprogramm();
+    Desktopprogramm(const Desktopprogramm&) = delete;
+    Desktopprogramm& operator=(const Desktopprogramm&) = delete;
+
+    // The start with the program's command line ("d", "e", a project path, "|" and a folder):
+    // the language, the windows, and the splash with Timer1, or at once for "d" and "e".
+    void starten(const std::string& befehlszeile);
+    // The handler of Timer1: the new project built up, the splash hidden, the main window shown.
+    void Timer1_Timer();
+
+    Projekt& p;
+    std::unique_ptr<Eingabeflaechen> ebenen;
+    std::unique_ptr<FILEIO> io;
+    std::unique_ptr<Bindungen> bindungen;
+    std::unique_ptr<Hauptfenster> haupt;
+    std::unique_ptr<StartFenster> start;
+    std::unique_ptr<Hilfefenster> hilfe;
+    std::unique_ptr<Sprachmenue> sprachmenue;
+    GeometrieDiagramme geometrie_diagramme;
+    // How many rows of the caption tables found no control at the English start.
+    int unuebersetzt = 0;
+    // The last fault of the calculation, empty while the results are valid.
+    std::string fehler;
+
+    Dialogs& dialoge() { return *dialoge_; }
+
+private:
+    void fenster_bauen();
+    void fehler_zeigen(const std::string& text);
+    void nach_aktion();
+    void hilfe_zeigen();
+
+    QtDialogs qt_dialoge_;
+    Dialogs* dialoge_;
+    Sprachwahl sprachwahl_;
+    std::string befehlszeile_;
+    std::unique_ptr<GeometrieFlaechen> geometrie_flaechen_;
+    std::unique_ptr<Auffrischtabelle> auffrischen_;
+    Diagrammeinstellung einstellung_;
+    std::vector<ChartWidget*> diagramme_;
+};

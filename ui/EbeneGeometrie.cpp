@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Bau.h"
+#include "ui/Bindungen.h"
+#include "ui/ChartWidget.h"
+#include "ui/Ebenen.h"
+
+#include "planes/E_Geometrie.h"
+
+#include <QPixmap>
+
+using namespace bau;
+using Art = Bindungen::Art;
+
+GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string& grafiken,
+                                   Ebenenbau& bau) {
+    // Roof: the heated attic and its ridge.
+    QCheckBox* dach = check(&e, "Check_Dachgeschoss", "Beheiztes Dachgeschoß", 6, 6, 170);
+    QGroupBox* frame3 = rahmen(&e, "Frame3", "Dachfirst", 4, 26, 170, 58);
+    QRadioButton* first1 = option(frame3, "Option_Dachfirst(1)", "Nord-Süd-Richtung", 8, 16, 155);
+    QRadioButton* first2 = option(frame3, "Option_Dachfirst(2)", "Ost-West-Richtung", 8, 36, 155);
+
+    // The A/V chart: the bar on a fixed scale, the value over it and the bodies of the same
+    // volume beside their marks (sphere at row 90, cube 71, tetrahedron 51).
+    QGroupBox* frame5 = rahmen(&e, "Frame5", "A/V - Verhältnis in 1/m", 180, 4, 168, 164);
+    auto* av = new ChartWidget(60, 130, frame5);
+    av->move(4, 18);
+    text(frame5, "Label36", "Körper gleichen Volumens", 70, 18, 94, 30);
+    QLabel* av_anz = text(frame5, nullptr, "", 2, 18, 44);
+    text(frame5, "Label35", "Kugel", 70, 102);
+    text(frame5, "Label34", "Würfel", 70, 83);
+    text(frame5, "Label11", "Tetraeder", 70, 62);
+    QLabel* kugel = text(frame5, nullptr, "", 124, 102, 40);
+    QLabel* wuerfel = text(frame5, nullptr, "", 124, 83, 40);
+    QLabel* tetra = text(frame5, nullptr, "", 124, 62, 40);
+    av->flaeche().Cls();
+
+    // The house with its dimensions.
+    QLabel* haus = text(&e, "Picture3", "", 70, 190, 160, 120);
+    text(&e, "Label1", "Anzahl Geschosse:", 4, 172, 64, 30);
+    QScrollBar* ag = balken(&e, Qt::Vertical, 20, 206, 16, 100);
+    QLabel* ag_anz = anzeige(&e, 40, 250, 26);
+    text(&e, "Label4", "Dachhöhe:", 258, 172);
+    QScrollBar* hd = balken(&e, Qt::Vertical, 236, 190, 16, 26);
+    QLabel* hd_anz = anzeige(&e, 258, 190, 60);
+    QScrollBar* h = balken(&e, Qt::Vertical, 236, 0, 16, 0);
+    text(&e, "Label22", "   Höhe     (ohne Dach):", 258, 216, 90, 30);
+    QLabel* h_anz = anzeige(&e, 258, 250, 60);
+    QScrollBar* l = balken(&e, Qt::Horizontal, 70, 314, 160, 16);
+    QLabel* l_anz = text(&e, "l_anz", "", 236, 314, 110);
+    QScrollBar* b = balken(&e, Qt::Horizontal, 70, 334, 160, 16);
+    QLabel* b_anz = text(&e, "b_anz", "", 236, 334, 110);
+    // Labels over the house picture, placed by the ridge logic in pixels of the picture.
+    QLabel* label9 = text(haus, "Label9", "Dachfläche (West):", 48, 26);
+    QLabel* label6 = text(haus, "Label6", "Giebel", 72, 88);
+    QLabel* dachflaeche = text(haus, nullptr, "", 24, 76, 70);
+    QLabel* giebel = text(haus, nullptr, "", 72, 88, 70);
+
+    text(&e, "Label14", "Süd-Fassade:", 4, 358);
+    QLabel* f_nfa = text(&e, nullptr, "", 84, 358, 80);
+    text(&e, "Label12", "West-", 176, 358);
+    text(&e, "Label15", "Fassade:", 210, 358);
+    QLabel* f_wfa = text(&e, nullptr, "", 264, 358, 80);
+
+    // Orientation: the sketch, the field and its compass letters.
+    QGroupBox* frame2 = rahmen(&e, "Frame2", "Orientierung ", 4, 380, 170, 136);
+    text(frame2, "Label23", "Auslenkung aus der Südrichtung", 6, 16, 160);
+    auto* lage = new ChartWidget(64, 64, frame2);
+    lage->move(53, 34);
+    text(frame2, "Label29", "N", 80, 24, 10, 12);
+    text(frame2, "Label28", "S", 81, 98, 10, 12);
+    text(frame2, "Label24", "W", 40, 60, 12, 12);
+    text(frame2, "Label27", "O", 122, 60, 12, 12);
+    QScrollBar* orient = balken(frame2, Qt::Horizontal, 8, 100, 154, 16);
+    text(frame2, "Label31", "WEST", 8, 118);
+    QLabel* orient_anz = text(frame2, nullptr, "", 70, 118, 34);
+    text(frame2, "Label30", "OST", 134, 118);
+    // The east end of the field, the letter that English gives as "E" too.
+    text(frame2, "Label26", "O", 164, 100, 6, 16)->setProperty("zeile", 5);
+
+    QGroupBox* frame4 = rahmen(&e, "Frame4", "Gebäudedaten", 180, 380, 168, 100);
+    text(frame4, "label37", "Grundfläche", 6, 18);
+    text(frame4, "Label13", "Nutzfläche", 6, 38);
+    text(frame4, "Label5", "Gebäudevolumen", 6, 58);
+    text(frame4, "Label18", "Luftvolumen", 6, 78);
+    QLabel* f_gd = anzeige(frame4, 100, 18);
+    QLabel* f_nutz = anzeige(frame4, 100, 38);
+    QLabel* v_geb = anzeige(frame4, 100, 58);
+    QLabel* v_luft = anzeige(frame4, 100, 78);
+
+    bau.diagramme.push_back(av);
+    bau.diagramme.push_back(lage);
+    bau.binden.push_back([=, &g](Bindungen& bd) {
+        bd.check(*dach, g.Check_Dachgeschoss);
+        bd.option(*first1, g.Option_Dachfirst, 1);
+        bd.option(*first2, g.Option_Dachfirst, 2);
+        l->setObjectName(QStringLiteral("l_sb"));
+        bd.scroll(*l, g.l_sb);
+        b->setObjectName(QStringLiteral("b_sb"));
+        bd.scroll(*b, g.b_sb);
+        h->setObjectName(QStringLiteral("h_sb"));
+        bd.scroll(*h, g.h_sb);
+        hd->setObjectName(QStringLiteral("hd_sb"));
+        bd.scroll(*hd, g.hd_sb);
+        ag->setObjectName(QStringLiteral("ag_sb"));
+        bd.scroll(*ag, g.ag_sb);
+        orient->setObjectName(QStringLiteral("orient_sb"));
+        bd.scroll(*orient, g.orient_sb);
+        bd.label(*l_anz, g.l_anz, Art::Ergebnis);
+        bd.label(*b_anz, g.b_anz, Art::Ergebnis);
+        bd.label(*h_anz, g.h_anz, Art::Ergebnis);
+        bd.label(*hd_anz, g.hd_anz, Art::Ergebnis);
+        bd.label(*ag_anz, g.ag_anz, Art::Ergebnis);
+        bd.label(*orient_anz, g.orient_anz);
+        f_nfa->setObjectName(QStringLiteral("f_nfa_anz"));
+        bd.label(*f_nfa, g.f_nfa_anz, Art::Ergebnis);
+        f_wfa->setObjectName(QStringLiteral("f_wfa_anz"));
+        bd.label(*f_wfa, g.f_wfa_anz, Art::Ergebnis);
+        f_gd->setObjectName(QStringLiteral("f_gd_anz"));
+        bd.label(*f_gd, g.f_gd_anz, Art::Ergebnis);
+        bd.label(*f_nutz, g.f_nutz_anz, Art::Ergebnis);
+        bd.label(*v_geb, g.v_geb_anz, Art::Ergebnis);
+        bd.label(*v_luft, g.v_luft_anz, Art::Ergebnis);
+        bd.label(*label9, g.Label9, Art::Entwurf, 1);
+        bd.label(*label6, g.Label6, Art::Entwurf, 1);
+        bd.label(*dachflaeche, g.dachflaeche_anz, Art::Ergebnis, 1);
+        bd.label(*giebel, g.Giebel_anz, Art::Ergebnis, 1);
+        bd.label(*av_anz, g.av_anz, Art::Ergebnis);
+        bd.label(*kugel, g.AV_Kugel, Art::Ergebnis);
+        bd.label(*wuerfel, g.AV_Wuerfel, Art::Ergebnis);
+        bd.label(*tetra, g.AV_Tetraeder, Art::Ergebnis);
+        QLabel* label4 = frame3->parentWidget()->findChild<QLabel*>("Label4");
+        bd.folgen([=, &g] {
+            frame3->setEnabled(g.Frame3_Enabled);
+            label4->setVisible(g.Label4.Visible);
+            // The height field is shorter while the roof field stands over it.
+            const QRect ort(236, 80 + g.h_sb_Top / TWIPS_JE_PIXEL, 16,
+                            g.h_sb_Height / TWIPS_JE_PIXEL);
+            if (h->geometry() != ort) {
+                h->setGeometry(ort);
+            }
+            if (haus->property("bild").toString().toStdString() != g.Picture3) {
+                const std::string datei = g.Picture3.substr(g.Picture3.find('/') + 1);
+                haus->setPixmap(QPixmap(QString::fromStdString(grafiken + "/" + datei)));
+                haus->setProperty("bild", QString::fromStdString(g.Picture3));
+            }
+            // The value over the bar follows its top.
+            av_anz->move(2, 18 + g.av_anz.Top - 4);
+        });
+    });
+    return {av, lage};
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+
+class QAction;
+class QPushButton;
+
+// The main window Haupt: the menu, the input planes under the bar E_Menue on the left, the
+// output planes over the bar A_Menue on the right, all at the fixed places of the design. One
+// plane of each side is shown; a plane's button is disabled while its plane is shown.
+class Hauptfenster : public QMainWindow {
+public:
+    // The input planes by their buttons' order on E_Menue and the output planes by A_Menue's.
+    enum Eingabe { Geometrie, Fenster, Daemmung, Gebaeude, Klima, Energie };
+    enum Ausgabe { Uebersicht, KlimaGebaeude, Heizen, Kuehlen, Sankey };
+
+    Hauptfenster();
+
+    QWidget* E_Menue = nullptr;
+    QWidget* A_Menue = nullptr;
+    std::array<QWidget*, 6> eingabe{}; // E_Geometrie ... E_Energie
+    std::array<QWidget*, 5> ausgabe{}; // A_Uebersicht ... A_Sankey
+    std::array<QPushButton*, 6> eingabe_knopf{};
+    std::array<QPushButton*, 5> ausgabe_knopf{};
+    QAction* mnuSpracheDeutsch = nullptr;
+    QAction* mnuSpracheEnglisch = nullptr;
+
+    // A button's click: every plane of its bar hidden and its buttons enabled, then the plane
+    // shown and its button disabled.
+    void eingabe_zeigen(int ebene);
+    void ausgabe_zeigen(int ebene);
+    // The input plane shown.
+    int eingabe_gezeigt() const { return eingabe_gezeigt_; }
+
+    // The menu's actions; each is set by the program.
+    std::function<void()> neu, oeffnen, speichern, speichern_unter, beenden, hilfe, info;
+    std::function<void(const char*)> sprache;
+    // The close box: true lets the window close.
+    std::function<bool()> schliessen_erlaubt;
+    // After a plane came up.
+    std::function<void()> ebene_gezeigt;
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    void menue_bauen();
+    int eingabe_gezeigt_ = Geometrie;
+};
