@@ -109,10 +109,10 @@ TEST(Projektdatei, Version30LoadsWithoutInfiltrationAndWithHeatBridges) {
 
 TEST(Projektdatei, TolerantListInput) {
     std::vector<std::string> z = version32();
-    z[1] = "   12.5  ";      // blanks around a number
-    z[2] = "8,99";           // a comma ends the value
-    z[19] = ".35";           // no blank, no zero
-    z[55] = "  trier.met,x"; // a station name is cut at the comma
+    z[1] = "   12.5  ";                  // blanks around a number
+    z[2] = "8,99";                       // a comma ends the value
+    z[19] = ".35";                       // no blank, no zero
+    z[55] = "  trier.met,x";             // a station name is cut at the comma
     z[0] = "  Velmaris Version 3.2,cut"; // the version line is read the same way
     z.push_back("further lines are ignored");
     Programm prog;
