@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QWidget>
 
 #include <set>
@@ -29,11 +30,26 @@ QString text_von(QObject* o) {
     return QString();
 }
 
+// A control on a fixed place grows to the right where the English text is longer; a wrapped
+// label keeps its box.
+void breiter_machen(QWidget* w) {
+    const int noetig = w->sizeHint().width();
+    if (w->width() < noetig) {
+        w->resize(noetig, w->height());
+    }
+}
+
 bool text_setzen(QObject* o, const QString& t) {
     if (auto* l = qobject_cast<QLabel*>(o)) {
         l->setText(t);
+        if (!l->wordWrap()) {
+            breiter_machen(l);
+        }
     } else if (auto* b = qobject_cast<QAbstractButton*>(o)) {
         b->setText(t);
+        if (qobject_cast<QPushButton*>(o) == nullptr) {
+            breiter_machen(b);
+        }
     } else if (auto* g = qobject_cast<QGroupBox*>(o)) {
         g->setTitle(t);
     } else if (auto* a = qobject_cast<QAction*>(o)) {

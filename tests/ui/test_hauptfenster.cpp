@@ -280,6 +280,34 @@ private slots:
         QVERIFY(haupt.ausgabe[Hauptfenster::Heizen]->isVisible());
         QVERIFY(!haupt.ausgabe[Hauptfenster::Uebersicht]->isVisible());
     }
+
+    // Every input plane paints in both languages; with VELMARIS_BILDER set, the pictures of
+    // the main window go to that folder for a look by eye.
+    void ebenen_zeichnen_sich() {
+        for (const char* sprache : {"d", "e"}) {
+            starten(sprache);
+            Hauptfenster& haupt = *programm->haupt;
+            const QString ordner = qEnvironmentVariable("VELMARIS_BILDER");
+            for (int i = 0; i < 4; ++i) {
+                haupt.eingabe_knopf[static_cast<std::size_t>(i)]->click();
+                const QImage bild = haupt.grab().toImage();
+                QCOMPARE(bild.width(), haupt.width());
+                const QImage ebene_bild = ebene(i)->grab().toImage();
+                const QRgb ecke = ebene_bild.pixel(0, 0);
+                int anders = 0;
+                for (int y = 0; y < ebene_bild.height(); y += 3) {
+                    for (int x = 0; x < ebene_bild.width(); x += 3) {
+                        anders += ebene_bild.pixel(x, y) != ecke ? 1 : 0;
+                    }
+                }
+                QVERIFY(anders > 500);
+                if (!ordner.isEmpty()) {
+                    bild.save(ordner + QStringLiteral("/ebene_%1_%2.png").arg(sprache).arg(i));
+                }
+            }
+            cleanup();
+        }
+    }
 };
 
 QTEST_MAIN(TestHauptfenster)
