@@ -5,11 +5,13 @@
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
+#include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
@@ -279,6 +281,39 @@ private slots:
         haupt.ausgabe_knopf[Hauptfenster::Heizen]->click();
         QVERIFY(haupt.ausgabe[Hauptfenster::Heizen]->isVisible());
         QVERIFY(!haupt.ausgabe[Hauptfenster::Uebersicht]->isVisible());
+    }
+
+    // A fault of the calculation is shown, greys the results and leaves the project editable;
+    // the next change calculates again.
+    void rechenfehler_macht_ergebnisse_ungueltig() {
+        starten("d");
+        QWidget* geo = ebene(Hauptfenster::Geometrie);
+        QWidget* geb = ebene(Hauptfenster::Gebaeude);
+        // A tall, light building on a small floor: its effective heat capacity is negative.
+        finden<QScrollBar>(geo, "l_sb")->setSliderPosition(20);
+        finden<QScrollBar>(geo, "b_sb")->setSliderPosition(20);
+        finden<QScrollBar>(geo, "ag_sb")->setSliderPosition(-1);
+        for (QComboBox* liste : geb->findChildren<QComboBox*>()) {
+            liste->setCurrentIndex(2);
+            emit liste->activated(2);
+        }
+        QVERIFY(programm->fehler.empty());
+        finden<QScrollBar>(geo, "h_sb")->setSliderPosition(-500);
+        QVERIFY2(!programm->fehler.empty(), "no fault");
+        QCOMPARE(dialoge->nachrichten.back().text, programm->fehler);
+        QVERIFY(dialoge->nachrichten.back().text.find("negative") != std::string::npos);
+        auto* f_gd = finden<QLabel>(geo, "f_gd_anz");
+        QVERIFY(f_gd->text().isEmpty());
+        QVERIFY(!f_gd->isEnabled());
+        QVERIFY(!programm->geometrie_diagramme.AV_Picture->gueltig());
+        // Still editable: the field moved, and a lower building calculates again.
+        QVERIFY(finden<QScrollBar>(geo, "h_sb")->isEnabled());
+        QCOMPARE(programm->p.h, 50.0f);
+        finden<QScrollBar>(geo, "h_sb")->setSliderPosition(-30);
+        QVERIFY(programm->fehler.empty());
+        QCOMPARE(f_gd->text(), QStringLiteral(" 4,0"));
+        QVERIFY(f_gd->isEnabled());
+        QVERIFY(programm->geometrie_diagramme.AV_Picture->gueltig());
     }
 
     // Every input plane paints in both languages; with VELMARIS_BILDER set, the pictures of
