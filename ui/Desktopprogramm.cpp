@@ -100,6 +100,7 @@ void Desktopprogramm::fenster_bauen() {
     ::fenster_bauen(*haupt->eingabe[Hauptfenster::Fenster], ebenen->fenster, bau);
     daemmung_bauen(*haupt->eingabe[Hauptfenster::Daemmung], ebenen->daemmung, bau);
     gebaeude_bauen(*haupt->eingabe[Hauptfenster::Gebaeude], ebenen->gebaeude, bau);
+    uebersicht_diagramme = uebersicht_bauen(*haupt->ausgabe[Hauptfenster::Uebersicht], bau);
     diagramme_ = bau.diagramme;
 
     // English is laid over the German design, window by window, before the models are bound,
@@ -113,6 +114,8 @@ void Desktopprogramm::fenster_bauen() {
         for (std::size_t i = 0; i < namen.size(); ++i) {
             unuebersetzt += fenster_uebersetzen(*haupt->eingabe[i], namen[i]);
         }
+        unuebersetzt +=
+            fenster_uebersetzen(*haupt->ausgabe[Hauptfenster::Uebersicht], "A_Uebersicht");
     }
     for (const auto& b : bau.binden) {
         b(*bindungen);
@@ -126,25 +129,37 @@ void Desktopprogramm::fenster_bauen() {
     // The charts the driver redraws while their plane is shown.
     geometrie_flaechen_ = std::make_unique<GeometrieFlaechen>(GeometrieFlaechen{
         geometrie_diagramme.AV_Picture->flaeche(), geometrie_diagramme.Picture1->flaeche()});
-    Ergebnisebenen x;
-    x.geometrie = geometrie_flaechen_.get();
+    const UebersichtDiagramme& u = uebersicht_diagramme;
+    uebersicht_flaechen_ = std::make_unique<UebersichtFlaechen>(UebersichtFlaechen{
+        u.Temperaturen->flaeche(), u.Monatsbilanz->flaeche(), u.JahrBilanz->flaeche(),
+        u.UeberGrafik->flaeche(), u.UeberJahr->flaeche()});
     auffrischen_ = std::make_unique<Auffrischtabelle>(
-        p, x,
+        p, ergebnisebenen(),
         [this](Ebene e) {
-            return e == Ebene::Geometrie && haupt->eingabe_gezeigt() == Hauptfenster::Geometrie;
+            switch (e) {
+            case Ebene::Geometrie:
+                return haupt->eingabe_gezeigt() == Hauptfenster::Geometrie;
+            case Ebene::Uebersicht:
+                return haupt->ausgabe_gezeigt() == Hauptfenster::Uebersicht;
+            default:
+                return false;
+            }
         },
         einstellung_, ebenen.get());
-    geometrie_diagramme.Picture1->zeichnen = [this] {
-        Ergebnisebenen e;
-        e.geometrie = geometrie_flaechen_.get();
-        neu_zeichnen(Flaeche::Picture1, p, e, einstellung_);
+    // A chart that comes up is drawn from the record as it stands.
+    auto beim_zeigen = [this](ChartWidget* c, Flaeche f) {
+        c->zeichnen = [this, c, f] {
+            Ergebnisebenen x = ergebnisebenen();
+            c->flaeche().Cls();
+            neu_zeichnen(f, p, x, einstellung_);
+        };
     };
-    geometrie_diagramme.AV_Picture->zeichnen = [this] {
-        Ergebnisebenen e;
-        e.geometrie = geometrie_flaechen_.get();
-        geometrie_diagramme.AV_Picture->flaeche().Cls();
-        neu_zeichnen(Flaeche::AV_Picture, p, e, einstellung_);
-    };
+    beim_zeigen(geometrie_diagramme.Picture1, Flaeche::Picture1);
+    beim_zeigen(geometrie_diagramme.AV_Picture, Flaeche::AV_Picture);
+    beim_zeigen(u.Monatsbilanz, Flaeche::Monatsbilanz);
+    beim_zeigen(u.JahrBilanz, Flaeche::JahrBilanz_Uebersicht);
+    beim_zeigen(u.UeberGrafik, Flaeche::UeberGrafik);
+    beim_zeigen(u.Temperaturen, Flaeche::Temperaturen);
 
     // The menu.
     auto befehl = [this](std::function<void()> f) {
@@ -186,6 +201,13 @@ void Desktopprogramm::fenster_bauen() {
     bindungen->abgleichen();
 }
 
+Ergebnisebenen Desktopprogramm::ergebnisebenen() {
+    Ergebnisebenen x;
+    x.geometrie = geometrie_flaechen_.get();
+    x.uebersicht = uebersicht_flaechen_.get();
+    return x;
+}
+
 void Desktopprogramm::fehler_zeigen(const std::string& text) {
     fehler = text;
     for (ChartWidget* c : diagramme_) {
@@ -201,9 +223,8 @@ void Desktopprogramm::nach_aktion() {
         c->gueltig_setzen(true);
     }
     if (haupt->eingabe_gezeigt() == Hauptfenster::Geometrie) {
-        Ergebnisebenen e;
-        e.geometrie = geometrie_flaechen_.get();
-        neu_zeichnen(Flaeche::Picture1, p, e, einstellung_);
+        Ergebnisebenen x = ergebnisebenen();
+        neu_zeichnen(Flaeche::Picture1, p, x, einstellung_);
     }
     for (ChartWidget* c : diagramme_) {
         if (c->isVisible()) {

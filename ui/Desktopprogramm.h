@@ -45,6 +45,7 @@ public:
     std::unique_ptr<Hilfefenster> hilfe;
     std::unique_ptr<Sprachmenue> sprachmenue;
     GeometrieDiagramme geometrie_diagramme;
+    UebersichtDiagramme uebersicht_diagramme;
     // How many rows of the caption tables found no control at the English start.
     int unuebersetzt = 0;
     // The last fault of the calculation, empty while the results are valid.
@@ -54,6 +55,8 @@ public:
 
 private:
     void fenster_bauen();
+    // The chart surfaces of the built planes, as the refresh routines take them.
+    Ergebnisebenen ergebnisebenen();
     void fehler_zeigen(const std::string& text);
     void nach_aktion();
     void hilfe_zeigen();
@@ -63,6 +66,7 @@ private:
     Sprachwahl sprachwahl_;
     std::string befehlszeile_;
     std::unique_ptr<GeometrieFlaechen> geometrie_flaechen_;
+    std::unique_ptr<UebersichtFlaechen> uebersicht_flaechen_;
     std::unique_ptr<Auffrischtabelle> auffrischen_;
     Diagrammeinstellung einstellung_;
     std::vector<ChartWidget*> diagramme_;

@@ -187,6 +187,7 @@ void Hauptfenster::ausgabe_zeigen(int ebene) {
     for (QPushButton* k : ausgabe_knopf) {
         k->setEnabled(true);
     }
+    ausgabe_gezeigt_ = ebene;
     ausgabe[static_cast<std::size_t>(ebene)]->show();
     ausgabe_knopf[static_cast<std::size_t>(ebene)]->setEnabled(false);
     if (ebene_gezeigt) {

@@ -35,6 +35,8 @@ public:
     void ausgabe_zeigen(int ebene);
     // The input plane shown.
     int eingabe_gezeigt() const { return eingabe_gezeigt_; }
+    // The output plane shown.
+    int ausgabe_gezeigt() const { return ausgabe_gezeigt_; }
 
     // The menu's actions; each is set by the program.
     std::function<void()> neu, oeffnen, speichern, speichern_unter, beenden, hilfe, info;
@@ -50,4 +52,5 @@ protected:
 private:
     void menue_bauen();
     int eingabe_gezeigt_ = Geometrie;
+    int ausgabe_gezeigt_ = Uebersicht;
 };
