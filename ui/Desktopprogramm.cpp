@@ -21,8 +21,8 @@ constexpr std::array<const char*, 6> HILFE_ANKER{"geometrie", "fenster", "daemmu
 } // namespace
 
 Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
-    : p(projekt()), dialoge_(dialoge != nullptr ? dialoge : &qt_dialoge_),
-      sprachwahl_(std::move(sprachwahl)) {
+    : p(projekt()), klimaordner(datenordner("klima")),
+      dialoge_(dialoge != nullptr ? dialoge : &qt_dialoge_), sprachwahl_(std::move(sprachwahl)) {
     // The planes were laid out for the small system sans of 8 points.
     QApplication::setFont(QtImageSurface::schrift("MS Sans Serif", 8.25, false));
 }
@@ -37,7 +37,9 @@ Desktopprogramm::~Desktopprogramm() {
 
 void Desktopprogramm::starten(const std::string& befehlszeile) {
     befehlszeile_ = befehlszeile;
-    p.KlimaOrdner = datenordner("klima");
+    p.KlimaOrdner = klimaordner;
+    // The splash comes first; the record may have served an earlier program in this process.
+    p.Gestartet = 0;
     const std::string grafiken = datenordner("Grafiken");
     Sprachwahl wahl = sprachwahl_;
     if (!wahl) {

@@ -37,6 +37,9 @@ public:
     void Timer1_Timer();
 
     Projekt& p;
+    // The folder of the station files and of the language file; the delivered klima/ unless
+    // set before the start.
+    std::string klimaordner;
     std::unique_ptr<Eingabeflaechen> ebenen;
     std::unique_ptr<FILEIO> io;
     std::unique_ptr<Bindungen> bindungen;

@@ -7,6 +7,7 @@
 #include "tests/support/Testprojekt.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
+#include "ui/StartFenster.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -28,11 +29,24 @@ class TestHauptfenster : public QObject {
 
     std::unique_ptr<SkriptDialogs> dialoge;
     std::unique_ptr<Desktopprogramm> programm;
+    // A copy of the delivered station folder, so that the language file of a test stays its own.
+    std::unique_ptr<TempOrdner> klima;
+    // The language the window of the first start chooses; "" closes it without a choice.
+    std::string wahl;
+    int gewaehlt = 0;
 
+    // The program built on the copied station folder, not yet started.
+    void bauen() {
+        dialoge = std::make_unique<SkriptDialogs>();
+        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [this] {
+            ++gewaehlt;
+            return wahl;
+        });
+        programm->klimaordner = klima->pfad().string();
+    }
     // The program started fast in `sprache`, the main window shown.
     void starten(const char* sprache) {
-        dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get());
+        bauen();
         programm->starten(sprache);
         QVERIFY(programm->haupt->isVisible());
     }
@@ -46,9 +60,17 @@ class TestHauptfenster : public QObject {
     QWidget* ebene(int i) { return programm->haupt->eingabe[static_cast<std::size_t>(i)]; }
 
 private slots:
+    void initTestCase() {
+        klima = std::make_unique<TempOrdner>();
+        std::filesystem::copy(VELMARIS_SOURCE_DIR "/klima", klima->pfad(),
+                              std::filesystem::copy_options::recursive);
+    }
     void cleanup() {
         programm.reset();
         dialoge.reset();
+        std::filesystem::remove(klima->pfad() / "typ.dat");
+        wahl.clear();
+        gewaehlt = 0;
     }
 
     void laenge_bewegt_anzeige_und_flaechen() {
@@ -246,23 +268,74 @@ private slots:
     void sprachmenue_wirkt_beim_naechsten_start() {
         starten("d");
         Hauptfenster& haupt = *programm->haupt;
-        const std::string datei = programm->p.KlimaOrdner + "/typ.dat";
-        const bool gab_es = std::filesystem::exists(datei);
-        std::string vorher;
-        if (gab_es) {
-            std::ifstream(datei) >> vorher;
-        }
         haupt.mnuSpracheEnglisch->trigger();
         QVERIFY(haupt.mnuSpracheEnglisch->isChecked());
         QVERIFY(!haupt.mnuSpracheDeutsch->isChecked());
         QCOMPARE(dialoge->nachrichten.size(), std::size_t{1});
-        // The captions stay German for this run.
+        std::string buchstabe;
+        std::ifstream(klima->pfad() / "typ.dat") >> buchstabe;
+        QCOMPARE(buchstabe, std::string("e"));
+        // The captions stay German for this run; the checked entry again does nothing.
         QCOMPARE(haupt.eingabe_knopf[Hauptfenster::Daemmung]->text(), QStringLiteral("Dämmung"));
-        if (gab_es) {
-            std::ofstream(datei) << vorher << "\n";
-        } else {
-            std::filesystem::remove(datei);
-        }
+        haupt.mnuSpracheEnglisch->trigger();
+        QVERIFY(haupt.mnuSpracheEnglisch->isChecked());
+        QCOMPARE(dialoge->nachrichten.size(), std::size_t{1});
+        // The next start without a letter reads it: English, without the choice window.
+        cleanup();
+        std::ofstream(klima->pfad() / "typ.dat") << "e\n";
+        bauen();
+        programm->starten(std::string());
+        QCOMPARE(gewaehlt, 0);
+        QCOMPARE(programm->p.Sprache, std::string("e"));
+    }
+
+    // Without a language file the choice window asks; the splash waits for Timer1 or OK_Button,
+    // which then opens the project the command line names in quotes.
+    void start_mit_wahl_splash_und_projekt() {
+        starten("d");
+        const std::string datei = (klima->pfad() / "haus.vel").string();
+        QVERIFY(QString::fromStdString(datei) == QString::fromStdString(datei).toLower());
+        finden<QScrollBar>(ebene(Hauptfenster::Geometrie), "l_sb")->setSliderPosition(123);
+        dialoge->dateien = {datei};
+        programm->haupt->speichern_unter();
+        QVERIFY(std::filesystem::exists(datei));
+        cleanup();
+
+        wahl = "d";
+        bauen();
+        programm->starten("\"" + datei + "\"");
+        QCOMPARE(gewaehlt, 1);
+        QVERIFY(std::filesystem::exists(klima->pfad() / "typ.dat"));
+        StartFenster& start = *programm->start;
+        QVERIFY(start.isVisible());
+        QVERIFY(start.Timer1.isActive());
+        QCOMPARE(start.Timer1.interval(), 10000);
+        QVERIFY(!programm->haupt->isVisible());
+        start.OK_Button->click();
+        QVERIFY(!start.isVisible());
+        QVERIFY(!start.Timer1.isActive());
+        QVERIFY(programm->haupt->isVisible());
+        QCOMPARE(programm->p.l, 12.3f);
+        QCOMPARE(dialoge->titel, std::string("Velmaris - HAUS.VEL"));
+        QCOMPARE(finden<QLabel>(ebene(Hauptfenster::Geometrie), "l_anz")->text(),
+                 QStringLiteral("Länge: 12,3 m"));
+        // Later the same button closes the about box only.
+        start.show();
+        start.OK_Button->click();
+        QVERIFY(!start.isVisible());
+        QCOMPARE(programm->p.l, 12.3f);
+    }
+
+    // F1 opens the help of the language of the run at the plane that is shown.
+    void hilfe_zur_ebene() {
+        starten("e");
+        programm->haupt->eingabe_knopf[Hauptfenster::Daemmung]->click();
+        QAction* hilfe = programm->haupt->findChild<QAction*>("mnuQuestHilfe");
+        QCOMPARE(hilfe->shortcut(), QKeySequence(Qt::Key_F1));
+        hilfe->trigger();
+        QVERIFY(programm->hilfe->isVisible());
+        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#daemmung"));
+        QVERIFY(programm->hilfe->toPlainText().size() > 1000);
     }
 
     void ebenenknopf_gesperrt_solange_ebene_gezeigt() {
