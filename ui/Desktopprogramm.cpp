@@ -11,6 +11,9 @@
 #include "ui/Uebersetzen.h"
 
 #include <QApplication>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -71,6 +74,9 @@ void Desktopprogramm::starten(const std::string& befehlszeile) {
         Timer1_Timer();
         return;
     }
+    if (const QScreen* schirm = QGuiApplication::primaryScreen()) {
+        start->move(schirm->availableGeometry().center() - start->rect().center());
+    }
     start->show();
     start->Timer1.start();
 }
@@ -82,6 +88,12 @@ void Desktopprogramm::Timer1_Timer() {
     start->Timer1.stop();
     p.Gestartet = 1;
     dialoge_->wartecursor(false);
+    // Centred on the screen, 200 pixels higher than the middle, but never above its top.
+    if (const QScreen* schirm = QGuiApplication::primaryScreen()) {
+        const QRect frei = schirm->availableGeometry();
+        haupt->move(frei.x() + (frei.width() - haupt->width()) / 2,
+                    std::max(frei.y(), frei.y() + (frei.height() - haupt->height()) / 2 - 200));
+    }
     haupt->show();
 }
 

@@ -55,29 +55,29 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
     QLabel* dachflaeche = text(haus, nullptr, "", 24, 76, 70);
     QLabel* giebel = text(haus, nullptr, "", 72, 88, 70);
 
-    text(&e, "Label14", "Süd-Fassade:", 4, 358);
-    QLabel* f_nfa = text(&e, nullptr, "", 84, 358, 80);
-    text(&e, "Label12", "West-", 176, 358);
-    text(&e, "Label15", "Fassade:", 210, 358);
-    QLabel* f_wfa = text(&e, nullptr, "", 264, 358, 80);
+    text(&e, "Label14", "Süd-Fassade:", 4, 352);
+    QLabel* f_nfa = text(&e, nullptr, "", 84, 352, 80);
+    text(&e, "Label12", "West-", 176, 352);
+    text(&e, "Label15", "Fassade:", 210, 352);
+    QLabel* f_wfa = text(&e, nullptr, "", 264, 352, 80);
 
     // Orientation: the sketch, the field and its compass letters.
-    QGroupBox* frame2 = rahmen(&e, "Frame2", "Orientierung ", 4, 380, 170, 136);
+    QGroupBox* frame2 = rahmen(&e, "Frame2", "Orientierung ", 4, 372, 170, 146);
     text(frame2, "Label23", "Auslenkung aus der Südrichtung", 6, 16, 160);
-    auto* lage = new ChartWidget(64, 64, frame2);
-    lage->move(53, 34);
-    text(frame2, "Label29", "N", 80, 24, 10, 12);
-    text(frame2, "Label28", "S", 81, 98, 10, 12);
-    text(frame2, "Label24", "W", 40, 60, 12, 12);
-    text(frame2, "Label27", "O", 122, 60, 12, 12);
-    QScrollBar* orient = balken(frame2, Qt::Horizontal, 8, 100, 154, 16);
-    text(frame2, "Label31", "WEST", 8, 118);
-    QLabel* orient_anz = text(frame2, nullptr, "", 70, 118, 34);
-    text(frame2, "Label30", "OST", 134, 118);
+    auto* lage = new ChartWidget(60, 60, frame2);
+    lage->move(55, 42);
+    text(frame2, "Label29", "N", 81, 30, 10, 12);
+    text(frame2, "Label28", "S", 81, 102, 10, 12);
+    text(frame2, "Label24", "W", 40, 66, 12, 12);
+    text(frame2, "Label27", "O", 120, 66, 12, 12);
+    QScrollBar* orient = balken(frame2, Qt::Horizontal, 8, 114, 140, 16);
+    text(frame2, "Label31", "WEST", 8, 130);
+    QLabel* orient_anz = text(frame2, nullptr, "", 70, 130, 34);
+    text(frame2, "Label30", "OST", 128, 130);
     // The east end of the field, the letter that English gives as "E" too.
-    text(frame2, "Label26", "O", 164, 100, 6, 16)->setProperty("zeile", 5);
+    text(frame2, "Label26", "O", 152, 114, 14, 16)->setProperty("zeile", 5);
 
-    QGroupBox* frame4 = rahmen(&e, "Frame4", "Gebäudedaten", 180, 380, 168, 100);
+    QGroupBox* frame4 = rahmen(&e, "Frame4", "Gebäudedaten", 180, 372, 168, 100);
     text(frame4, "label37", "Grundfläche", 6, 18);
     text(frame4, "Label13", "Nutzfläche", 6, 38);
     text(frame4, "Label5", "Gebäudevolumen", 6, 58);
