@@ -8,6 +8,8 @@ Hilfefenster::Hilfefenster(const std::string& datei)
     setObjectName(QStringLiteral("Hilfe"));
     setWindowTitle(QStringLiteral("Velmaris"));
     setOpenExternalLinks(true);
+    // An open help window does not keep the program alive after the main window closed.
+    setAttribute(Qt::WA_QuitOnClose, false);
     resize(640, 560);
     setSource(adresse_);
 }
