@@ -10,8 +10,16 @@
 
 namespace {
 
-// Half away from zero, as the charts expect of every coordinate.
+// Half away from zero, as the charts expect of every coordinate. A coordinate far outside any
+// surface (or not a number) is held at a million pixels, where nothing is seen.
 int runden(double v) {
+    constexpr double GRENZE = 1.0e6;
+    if (!(v > -GRENZE)) {
+        return static_cast<int>(-GRENZE);
+    }
+    if (!(v < GRENZE)) {
+        return static_cast<int>(GRENZE);
+    }
     return static_cast<int>(std::lround(v));
 }
 
@@ -69,8 +77,13 @@ void QtImageSurface::Line(double x1, double y1, double x2, double y2, Rgb colour
     const int dx = std::abs(xe - xa), dy = -std::abs(ye - ya);
     const int sx = xa < xe ? 1 : -1, sy = ya < ye ? 1 : -1;
     int fehler = dx + dy;
-    // The end pixel is left out, as the platform's line does.
+    // The end pixel is left out, as the platform's line does. A walk that has left the surface
+    // in its own direction sees nothing more.
     while (xa != xe || ya != ye) {
+        if ((sx > 0 && xa >= bild_.width()) || (sx < 0 && xa < 0) ||
+            (sy > 0 && ya >= bild_.height()) || (sy < 0 && ya < 0)) {
+            return;
+        }
         punkt(xa, ya, c);
         const int f2 = 2 * fehler;
         if (f2 >= dy) {
@@ -111,9 +124,10 @@ void QtImageSurface::FilledBox(double x1, double y1, double x2, double y2, Rgb c
 }
 
 void QtImageSurface::Circle(double cx, double cy, double radius, Rgb colour) {
-    if (radius < 0.5) {
+    if (!(radius >= 0.5)) {
         return;
     }
+    radius = std::min(radius, 1.0e6);
     QPainter maler(&bild_);
     maler.setPen(QPen(farbe(colour), DrawWidth));
     if (FillStyle == FillMode::Solid) {
@@ -124,9 +138,10 @@ void QtImageSurface::Circle(double cx, double cy, double radius, Rgb colour) {
 
 void QtImageSurface::Circle(double cx, double cy, double radius, Rgb colour, double start,
                             double end) {
-    if (radius < 0.5) {
+    if (!(radius >= 0.5)) {
         return;
     }
+    radius = std::min(radius, 1.0e6);
     const double a = std::fabs(start), e = std::fabs(end);
     double spanne = e - a;
     if (spanne <= 0) {
