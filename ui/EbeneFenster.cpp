@@ -79,9 +79,20 @@ void fenster_bauen(QWidget& e, E_Fenster& f, Ebenenbau& bau) {
             Zeile& z = (*zeilen)[static_cast<std::size_t>(i)];
             Fensterfassade& x = f.fassaden[static_cast<std::size_t>(i)];
             z.f_sb->setObjectName(QStringLiteral("f_sb(%1)").arg(i));
+            // The field the user works on holds the focus, which the type logic asks; the
+            // focus is taken before the field's own handler runs.
+            const auto fokus = [&f](QScrollBar* sb, const ScrollField* feld) {
+                QObject::connect(sb, &QAbstractSlider::sliderPressed, sb,
+                                 [&f, feld] { f.Fokus = feld; });
+                QObject::connect(sb, &QAbstractSlider::actionTriggered, sb,
+                                 [&f, feld](int) { f.Fokus = feld; });
+            };
+            fokus(z.f_sb, &x.f_sb);
             bd.scroll(*z.f_sb, x.f_sb);
             bd.label(*z.f_anz, x.f_anz);
             bd.label(*z.flaeche, x.f_flaeche_anz, Art::Ergebnis);
+            QObject::connect(z.typ, QOverload<int>::of(&QComboBox::activated), z.typ,
+                             [&f](int) { f.Fokus = nullptr; });
             bd.liste(*z.typ, x.typ);
             const std::array<ScrollField*, 5> felder{&x.kfg_sb, &x.kfr_sb, &x.gf_sb, &x.ra_sb,
                                                      &x.versch_sb};
@@ -91,6 +102,7 @@ void fenster_bauen(QWidget& e, E_Fenster& f, Ebenenbau& bau) {
                                                  &x.versch_anz};
             for (std::size_t k = 0; k < felder.size(); ++k) {
                 z.sb[k]->setObjectName(QStringLiteral("%1(%2)").arg(namen[k]).arg(i));
+                fokus(z.sb[k], felder[k]);
                 bd.scroll(*z.sb[k], *felder[k]);
                 bd.label(*z.anz[k], *anzeigen[k]);
             }

@@ -172,6 +172,25 @@ private slots:
         QCOMPARE(finden<QScrollBar>(fe, "kfg_sb(3)")->value(), kfg->value());
     }
 
+    // A U value moved by hand makes the facade's type "Sonstiges"; a chosen type sets its values.
+    void verschobener_wert_macht_typ_sonstiges() {
+        starten("d");
+        programm->haupt->eingabe_knopf[Hauptfenster::Fenster]->click();
+        QWidget* fe = ebene(Hauptfenster::Fenster);
+        QTest::mouseClick(finden<QRadioButton>(fe, "Option1(1)"), Qt::LeftButton);
+        programm->haupt->findChildren<QPushButton*>("Command_HR(2)").first()->click();
+        auto* typ = finden<QGroupBox>(fe, "Frame_Ost")->findChild<QComboBox*>();
+        QVERIFY(typ->isVisible());
+        typ->setCurrentIndex(1);
+        emit typ->activated(1);
+        QCOMPARE(programm->p.fenstero_typ, int16_t{1});
+        finden<QScrollBar>(fe, "kfg_sb(2)")->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        QCOMPARE(typ->currentIndex(), 7);
+        QCOMPARE(programm->p.fenstero_typ, int16_t{7});
+        // The south facade keeps its own type in the individual mode.
+        QVERIFY(finden<QGroupBox>(fe, "Frame_Sued")->findChild<QComboBox*>()->currentIndex() != 7);
+    }
+
     void wand_gegen_beheizt_sperrt_fensteranteil() {
         starten("d");
         QWidget* fe = ebene(Hauptfenster::Fenster);
