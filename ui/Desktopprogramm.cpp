@@ -70,6 +70,7 @@ void Desktopprogramm::starten(const std::string& befehlszeile) {
         unuebersetzt += fenster_uebersetzen(*start, "Start");
     }
     start->infotext_setzen(p.Sprache);
+    start->schliessen_erlaubt = haupt->schliessen_erlaubt;
     if (schnell) {
         Timer1_Timer();
         return;

@@ -3,6 +3,8 @@
 
 #include "ui/Bau.h"
 
+#include <QApplication>
+#include <QCloseEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QResizeEvent>
@@ -52,6 +54,17 @@ StartFenster::StartFenster(std::function<void()> aufbau, std::function<bool()> g
 
 void StartFenster::infotext_setzen(const std::string& sprache) {
     Info->setText(QString::fromUtf8(sprache == "e" ? INFO_E : INFO_D));
+}
+
+void StartFenster::closeEvent(QCloseEvent* e) {
+    // The close box of the splash and of the about box asks about unsaved changes like the main
+    // window's, and unless cancelled ends the program at once.
+    if (schliessen_erlaubt && !schliessen_erlaubt()) {
+        e->ignore();
+        return;
+    }
+    e->accept();
+    QApplication::quit();
 }
 
 void StartFenster::resizeEvent(QResizeEvent* e) {

@@ -24,8 +24,12 @@ public:
     // The about text in German or English.
     void infotext_setzen(const std::string& sprache);
 
+    // The close box: false keeps the window; true ends the program.
+    std::function<bool()> schliessen_erlaubt;
+
 protected:
     void resizeEvent(QResizeEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
 
 private:
     std::function<void()> aufbau_;

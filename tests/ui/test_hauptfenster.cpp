@@ -343,6 +343,13 @@ private slots:
         start.OK_Button->click();
         QVERIFY(!start.isVisible());
         QCOMPARE(programm->p.l, 12.3f);
+        // Its close box asks about unsaved changes as the main window's does.
+        finden<QScrollBar>(ebene(Hauptfenster::Geometrie), "l_sb")
+            ->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        start.show();
+        dialoge->antworten = {Dialogs::Antwort::Abbrechen};
+        QVERIFY(!start.close());
+        QCOMPARE(dialoge->nachrichten.back().titel, std::string("Änderungen speichern ?"));
     }
 
     // F1 opens the help of the language of the run at the plane that is shown.
