@@ -17,6 +17,9 @@ E_Fenster::E_Fenster(Projekt& p, char dezimal)
     for (Fassade f : {Nord, Sued, Ost, West}) {
         handler_verbinden(f);
     }
+    // The mode the plane opens with, as designed: set before the handler is attached, so that
+    // nothing is copied or calculated while the plane is built.
+    Option1.setzen(p_.Fenstermodus == 1 ? 1 : 0);
     Option1.Click = [this](int index) { Option1_Click(index); };
 }
 

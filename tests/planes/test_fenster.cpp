@@ -138,3 +138,13 @@ TEST(E_Fenster, AreaDisplaysOfTheNewProject) {
     EXPECT_EQ(f.kf_anz.Caption, " 1.42");
     EXPECT_EQ(f.gfm_anz.Caption, " 0.58");
 }
+
+TEST(E_Fenster, PlaneOpensInTheModeOfTheRecordWithoutCalculating) {
+    Programm prog;
+    // The started program's planes: the same windows at all facades.
+    EXPECT_TRUE(prog.e->fenster.Option1.Value(0));
+    EXPECT_FALSE(prog.e->fenster.Option1.Value(1));
+    // A south change in that mode reaches the north facade without choosing a mode first.
+    prog.e->fenster[Sued].versch_sb.setze(40);
+    EXPECT_FLOAT_EQ(prog.p->verschn, 0.4f);
+}
