@@ -175,14 +175,17 @@ void SankeyKuehlen(const Projekt& p, SankeyFlaechen& f, const Diagrammeinstellun
     rechts(t("Abwärme Kühlgerät", "Waste heat from cooling system"), L::X_TEXT_RECHTS, yP + 4);
     rechts(wert(m.E), L::X_TEXT_RECHTS, yP + 16);
 
-    // The surplus gains under their heading, at the left below the stack.
-    links(t("Überschüssige", "Surplus"), 2, yP + 4);
+    // The surplus gains under their heading, at the left below the stack. The five lines share
+    // the margin under the stack, closer than the font's line height where that is taller than
+    // a fifth of it, so that the last one stays on the surface.
+    const std::string kopf = t("Überschüssige", "Surplus");
+    const double zeile = std::min(s.TextHeight(kopf), (s.ScaleHeight() - (yP + 4)) / 5.0);
+    links(kopf, 2, yP + 4);
     const char* const namen[4][2] = {{" - Transmissionsgewinne: ", " - transmission gains: "},
                                      {" - Lüftungsgewinne: ", " - ventilation gains: "},
                                      {" - solare Gewinne: ", " - solar gains: "},
                                      {" - interne Gewinne: ", " - internal gains: "}};
     for (int k = 0; k < 4; ++k) {
-        s.CurrentX = 2;
-        s.Print(t(namen[k][0], namen[k][1]) + wert(m.teile[k]));
+        links(t(namen[k][0], namen[k][1]) + wert(m.teile[k]), 2, yP + 4 + (k + 1) * zeile);
     }
 }

@@ -344,3 +344,36 @@ TEST(SankeyKuehlen, ASmallEfficiencyCapsTheLossAtEightyPixelsAndShrinksTheRest) 
 }
 
 } // namespace
+
+// A surface whose font is taller than the recording surface's, as a screen font may be.
+class HoheSchrift : public RecordingSurface {
+public:
+    using RecordingSurface::RecordingSurface;
+    double TextHeight(const std::string&) const override { return 14; }
+};
+
+TEST(SankeyKuehlen, TheListOfSurplusGainsStaysOnTheSurfaceWithATallFont) {
+    TempOrdner o;
+    auto p = kuehlprojekt(o, "d");
+    for (int hoehe : {228, 300}) {
+        RecordingSurface heizen(436, hoehe);
+        HoheSchrift kuehlen(436, hoehe);
+        SankeyFlaechen f{heizen, kuehlen};
+        SankeyKuehlen(*p, f, einstellung("d"));
+        std::vector<double> zeilen;
+        for (const auto& t : kuehlen.of_kind(Kind::Print)) {
+            if (t.text == "Überschüssige" || t.text.rfind(" - ", 0) == 0) {
+                zeilen.push_back(t.y1);
+            }
+        }
+        ASSERT_EQ(zeilen.size(), 5u);
+        const double abstand = zeilen[1] - zeilen[0];
+        EXPECT_GT(abstand, 10);
+        EXPECT_LE(abstand, 14);
+        for (std::size_t i = 1; i < zeilen.size(); ++i) {
+            EXPECT_NEAR(zeilen[i] - zeilen[i - 1], abstand, 1e-9);
+        }
+        // The last line ends on the surface.
+        EXPECT_LE(zeilen.back() + abstand, hoehe);
+    }
+}
