@@ -62,4 +62,16 @@ QLabel* anzeige(QWidget* eltern, int x, int y, int w) {
     return l;
 }
 
+QLabel* legende(QWidget* eltern, int x, int y, QColor farbe, const char* t, int zeile) {
+    auto* f = new QFrame(eltern);
+    f->setAutoFillBackground(true);
+    QPalette pal = f->palette();
+    pal.setColor(QPalette::Window, farbe);
+    f->setPalette(pal);
+    f->setGeometry(x, y + 3, 10, 10);
+    QLabel* l = text(eltern, nullptr, t, x + 14, y);
+    l->setProperty("zeile", zeile);
+    return l;
+}
+
 } // namespace bau

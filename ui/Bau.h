@@ -28,5 +28,8 @@ QComboBox* liste(QWidget* eltern, int x, int y, int w);
 QPushButton* knopf(QWidget* eltern, const char* name, const char* text, int x, int y, int w, int h);
 // A display: a sunken field for a value written by the plane.
 QLabel* anzeige(QWidget* eltern, int x, int y, int w = 60);
+// A small colour key at (x, y) beside its text; `zeile` is the text's row in the plane's caption
+// table.
+QLabel* legende(QWidget* eltern, int x, int y, QColor farbe, const char* text, int zeile);
 
 } // namespace bau

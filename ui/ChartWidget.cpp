@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ChartWidget.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 ChartWidget::ChartWidget(int breite, int hoehe, QWidget* eltern, Rgb hintergrund)
@@ -30,4 +31,12 @@ void ChartWidget::showEvent(QShowEvent*) {
         zeichnen();
         update();
     }
+}
+
+void ChartWidget::mousePressEvent(QMouseEvent* e) {
+    if (klick && e->button() == Qt::LeftButton) {
+        klick();
+        return;
+    }
+    QWidget::mousePressEvent(e);
 }

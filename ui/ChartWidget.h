@@ -17,6 +17,8 @@ public:
     QtImageSurface& flaeche() { return flaeche_; }
     // Draws the surface anew when the widget is shown; may be empty.
     std::function<void()> zeichnen;
+    // A click of the left button on the chart; may be empty.
+    std::function<void()> klick;
     // Whether the drawing stands for valid results; a chart that is not valid is greyed out.
     void gueltig_setzen(bool gueltig);
     bool gueltig() const { return gueltig_; }
@@ -24,6 +26,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void showEvent(QShowEvent*) override;
+    void mousePressEvent(QMouseEvent* e) override;
 
 private:
     QtImageSurface flaeche_;

@@ -2,6 +2,7 @@
 #include "ui/Desktopprogramm.h"
 
 #include "app/cli/pfade.h"
+#include "charts/A_Heizen.h"
 #include "charts/Neuzeichnen.h"
 #include "language/c_Sprache.h"
 #include "project/FatalError.h"
@@ -11,6 +12,7 @@
 #include "ui/Uebersetzen.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
@@ -33,6 +35,7 @@ Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
 Desktopprogramm::~Desktopprogramm() {
     // The refresh table gives the observer back to the planes before they go.
     auffrischen_.reset();
+    zoom.reset();
     haupt.reset();
     io.reset();
     ebenen.reset();
@@ -115,7 +118,12 @@ void Desktopprogramm::fenster_bauen() {
     ::fenster_bauen(*haupt->eingabe[Hauptfenster::Fenster], ebenen->fenster, bau);
     daemmung_bauen(*haupt->eingabe[Hauptfenster::Daemmung], ebenen->daemmung, bau);
     gebaeude_bauen(*haupt->eingabe[Hauptfenster::Gebaeude], ebenen->gebaeude, bau);
-    uebersicht_diagramme = uebersicht_bauen(*haupt->ausgabe[Hauptfenster::Uebersicht], bau);
+    uebersicht_diagramme =
+        uebersicht_bauen(*haupt->ausgabe[Hauptfenster::Uebersicht], p, einstellung_, bau);
+    heizen_diagramme = heizen_bauen(*haupt->ausgabe[Hauptfenster::Heizen], p, einstellung_, bau);
+    kuehlen_diagramme = kuehlen_bauen(*haupt->ausgabe[Hauptfenster::Kuehlen], p, einstellung_, bau);
+    sankey_diagramme = sankey_bauen(*haupt->ausgabe[Hauptfenster::Sankey], bau);
+    klima_felder = klima_bauen(*haupt->ausgabe[Hauptfenster::KlimaGebaeude]);
     diagramme_ = bau.diagramme;
 
     // English is laid over the German design, window by window, before the models are bound,
@@ -129,8 +137,11 @@ void Desktopprogramm::fenster_bauen() {
         for (std::size_t i = 0; i < namen.size(); ++i) {
             unuebersetzt += fenster_uebersetzen(*haupt->eingabe[i], namen[i]);
         }
-        unuebersetzt +=
-            fenster_uebersetzen(*haupt->ausgabe[Hauptfenster::Uebersicht], "A_Uebersicht");
+        const std::array<const char*, 5> ausgaben{"A_Uebersicht", "A_Klima", "A_Heizen",
+                                                  "A_Kuehlen", "A_Sankey"};
+        for (std::size_t i = 0; i < ausgaben.size(); ++i) {
+            unuebersetzt += fenster_uebersetzen(*haupt->ausgabe[i], ausgaben[i]);
+        }
     }
     for (const auto& b : bau.binden) {
         b(*bindungen);
@@ -141,40 +152,7 @@ void Desktopprogramm::fenster_bauen() {
         haupt->mnuSpracheEnglisch->setChecked(sprachmenue->mnuSpracheEnglisch);
     });
 
-    // The charts the driver redraws while their plane is shown.
-    geometrie_flaechen_ = std::make_unique<GeometrieFlaechen>(GeometrieFlaechen{
-        geometrie_diagramme.AV_Picture->flaeche(), geometrie_diagramme.Picture1->flaeche()});
-    const UebersichtDiagramme& u = uebersicht_diagramme;
-    uebersicht_flaechen_ = std::make_unique<UebersichtFlaechen>(UebersichtFlaechen{
-        u.Temperaturen->flaeche(), u.Monatsbilanz->flaeche(), u.JahrBilanz->flaeche(),
-        u.UeberGrafik->flaeche(), u.UeberJahr->flaeche()});
-    auffrischen_ = std::make_unique<Auffrischtabelle>(
-        p, ergebnisebenen(),
-        [this](Ebene e) {
-            switch (e) {
-            case Ebene::Geometrie:
-                return haupt->eingabe_gezeigt() == Hauptfenster::Geometrie;
-            case Ebene::Uebersicht:
-                return haupt->ausgabe_gezeigt() == Hauptfenster::Uebersicht;
-            default:
-                return false;
-            }
-        },
-        einstellung_, ebenen.get());
-    // A chart that comes up is drawn from the record as it stands.
-    auto beim_zeigen = [this](ChartWidget* c, Flaeche f) {
-        c->zeichnen = [this, c, f] {
-            Ergebnisebenen x = ergebnisebenen();
-            c->flaeche().Cls();
-            neu_zeichnen(f, p, x, einstellung_);
-        };
-    };
-    beim_zeigen(geometrie_diagramme.Picture1, Flaeche::Picture1);
-    beim_zeigen(geometrie_diagramme.AV_Picture, Flaeche::AV_Picture);
-    beim_zeigen(u.Monatsbilanz, Flaeche::Monatsbilanz);
-    beim_zeigen(u.JahrBilanz, Flaeche::JahrBilanz_Uebersicht);
-    beim_zeigen(u.UeberGrafik, Flaeche::UeberGrafik);
-    beim_zeigen(u.Temperaturen, Flaeche::Temperaturen);
+    ergebnisse_bauen();
 
     // The menu.
     auto befehl = [this](std::function<void()> f) {
@@ -211,15 +189,130 @@ void Desktopprogramm::fenster_bauen() {
         if (bindungen && p.Gestartet == 1 && haupt->eingabe_gezeigt() == Hauptfenster::Geometrie) {
             bindungen->ausfuehren([this] { alles_berechnen(p); });
         }
+        ausgabe_auffrischen();
     };
     haupt->ebene_gezeigt();
     bindungen->abgleichen();
+}
+
+void Desktopprogramm::ergebnisse_bauen() {
+    // The charts the driver redraws while their plane is shown.
+    geometrie_flaechen_ = std::make_unique<GeometrieFlaechen>(GeometrieFlaechen{
+        geometrie_diagramme.AV_Picture->flaeche(), geometrie_diagramme.Picture1->flaeche()});
+    UebersichtDiagramme& u = uebersicht_diagramme;
+    uebersicht_flaechen_ = std::make_unique<UebersichtFlaechen>(UebersichtFlaechen{
+        u.Temperaturen->flaeche(), u.Monatsbilanz->flaeche(), u.JahrBilanz->flaeche(),
+        u.UeberGrafik->flaeche(), u.UeberJahr->flaeche()});
+    const HeizenDiagramme& h = heizen_diagramme;
+    heizen_flaechen_ = std::make_unique<HeizenFlaechen>(heizen_flaechen(h, heiz_felder_));
+    const KuehlenDiagramme& k = kuehlen_diagramme;
+    kuehlen_flaechen_ = std::make_unique<KuehlenFlaechen>(
+        KuehlenFlaechen{k.StundenProTagMonat->flaeche(), k.StundenProTagJahr->flaeche(),
+                        k.KuehlbedarfMonat->flaeche(), k.KuehlbedarfJahr->flaeche(),
+                        k.KuehlGradStundenMonat->flaeche(), k.KuehlGradStundenJahr->flaeche()});
+    sankey_flaechen_ = std::make_unique<SankeyFlaechen>(SankeyFlaechen{
+        sankey_diagramme.Sankey->flaeche(), sankey_diagramme.Sankey_Kuehlen->flaeche()});
+    auffrischen_ = std::make_unique<Auffrischtabelle>(
+        p, ergebnisebenen(),
+        [this](Ebene e) {
+            const int a = haupt->ausgabe_gezeigt();
+            switch (e) {
+            case Ebene::Geometrie:
+                return haupt->eingabe_gezeigt() == Hauptfenster::Geometrie;
+            case Ebene::Uebersicht:
+                return a == Hauptfenster::Uebersicht;
+            case Ebene::Heizen:
+                return a == Hauptfenster::Heizen;
+            case Ebene::Kuehlen:
+                return a == Hauptfenster::Kuehlen;
+            case Ebene::Sankey:
+                return a == Hauptfenster::Sankey;
+            case Ebene::KlimaGebaeude:
+                return a == Hauptfenster::KlimaGebaeude;
+            case Ebene::Energie:
+                return false;
+            }
+            return false;
+        },
+        einstellung_, ebenen.get());
+    // A chart that comes up is drawn from the record as it stands.
+    auto beim_zeigen = [this](ChartWidget* c, Flaeche f) {
+        c->zeichnen = [this, c, f] {
+            Ergebnisebenen x = ergebnisebenen();
+            c->flaeche().Cls();
+            neu_zeichnen(f, p, x, einstellung_);
+        };
+    };
+    beim_zeigen(geometrie_diagramme.Picture1, Flaeche::Picture1);
+    beim_zeigen(geometrie_diagramme.AV_Picture, Flaeche::AV_Picture);
+    beim_zeigen(u.Monatsbilanz, Flaeche::Monatsbilanz);
+    beim_zeigen(u.JahrBilanz, Flaeche::JahrBilanz_Uebersicht);
+    beim_zeigen(u.UeberGrafik, Flaeche::UeberGrafik);
+    beim_zeigen(u.Temperaturen, Flaeche::Temperaturen);
+    beim_zeigen(h.Heizbilanz, Flaeche::Heizbilanz);
+    beim_zeigen(h.JahrBilanz, Flaeche::JahrBilanz_Heizen);
+    beim_zeigen(h.NutzungsgradMonat, Flaeche::NutzungsgradMonat);
+    beim_zeigen(h.Gewinne_N, Flaeche::Gewinne_N);
+    beim_zeigen(k.StundenProTagMonat, Flaeche::StundenProTagMonat);
+    beim_zeigen(k.KuehlbedarfMonat, Flaeche::KuehlbedarfMonat);
+    beim_zeigen(k.KuehlGradStundenMonat, Flaeche::KuehlGradStundenMonat);
+    beim_zeigen(sankey_diagramme.Sankey, Flaeche::Sankey);
+    beim_zeigen(sankey_diagramme.Sankey_Kuehlen, Flaeche::Sankey_Kuehlen);
+
+    for (std::size_t i = 0; i < u.Monatsbutton.size(); ++i) {
+        QObject::connect(u.Monatsbutton[i], &QPushButton::clicked, haupt.get(), [this, i] {
+            monat_waehlen(uebersicht_diagramme, p, einstellung_, static_cast<int>(i) + 1);
+        });
+    }
+    monat_waehlen(u, p, einstellung_, 7);
+    u.Temperaturen->klick = [this] { zoom_zeigen(); };
+}
+
+void Desktopprogramm::ausgabe_auffrischen() {
+    if (p.Gestartet != 1 || !fehler.empty()) {
+        return;
+    }
+    switch (haupt->ausgabe_gezeigt()) {
+    case Hauptfenster::Heizen:
+        heiz_felder_ = HeizFelderAusfuellen(p, einstellung_.dezimal);
+        heizfelder_zeigen(heizen_diagramme, heiz_felder_);
+        break;
+    case Hauptfenster::KlimaGebaeude:
+        klima_ausfuellen(klima_felder, p, einstellung_.dezimal);
+        break;
+    default:
+        break;
+    }
+}
+
+void Desktopprogramm::zoom_zeigen() {
+    if (!zoom) {
+        zoom = std::make_unique<ZoomFenster>(p, einstellung_, haupt.get());
+        zoom->setWindowTitle(QStringLiteral("Velmaris"));
+        if (p.Sprache == "e") {
+            unuebersetzt += fenster_uebersetzen(*zoom, "A_Zoom");
+        }
+        // The month chosen in the window is the overview's month too.
+        zoom->monat_gewaehlt = [this](int m) {
+            monat_waehlen(uebersicht_diagramme, p, einstellung_, m);
+        };
+    }
+    zoom->show();
+    zoom->raise();
+    zoom->Temperaturen->zeichnen();
+    zoom->Temperaturen->update();
 }
 
 Ergebnisebenen Desktopprogramm::ergebnisebenen() {
     Ergebnisebenen x;
     x.geometrie = geometrie_flaechen_.get();
     x.uebersicht = uebersicht_flaechen_.get();
+    x.heizen = heizen_flaechen_.get();
+    x.kuehlen = kuehlen_flaechen_.get();
+    x.sankey = sankey_flaechen_.get();
+    x.klima_ausfuellen = [this](const Projekt& q) {
+        klima_ausfuellen(klima_felder, q, einstellung_.dezimal);
+    };
     return x;
 }
 
@@ -240,6 +333,10 @@ void Desktopprogramm::nach_aktion() {
     if (haupt->eingabe_gezeigt() == Hauptfenster::Geometrie) {
         Ergebnisebenen x = ergebnisebenen();
         neu_zeichnen(Flaeche::Picture1, p, x, einstellung_);
+    }
+    // The refresh table wrote the heating fields while their plane was shown.
+    if (haupt->ausgabe_gezeigt() == Hauptfenster::Heizen) {
+        heizfelder_zeigen(heizen_diagramme, heiz_felder_);
     }
     for (ChartWidget* c : diagramme_) {
         if (c->isVisible()) {

@@ -12,6 +12,7 @@
 #include "ui/Hilfefenster.h"
 #include "ui/QtDialogs.h"
 #include "ui/StartFenster.h"
+#include "ui/ZoomFenster.h"
 
 #include <memory>
 #include <string>
@@ -49,6 +50,12 @@ public:
     std::unique_ptr<Sprachmenue> sprachmenue;
     GeometrieDiagramme geometrie_diagramme;
     UebersichtDiagramme uebersicht_diagramme;
+    HeizenDiagramme heizen_diagramme;
+    KuehlenDiagramme kuehlen_diagramme;
+    SankeyDiagramme sankey_diagramme;
+    KlimaFelder klima_felder;
+    // The enlarged temperature window, made by the first click on the overview's chart.
+    std::unique_ptr<ZoomFenster> zoom;
     // How many rows of the caption tables found no control at the English start.
     int unuebersetzt = 0;
     // The last fault of the calculation, empty while the results are valid.
@@ -63,6 +70,10 @@ private:
     void fehler_zeigen(const std::string& text);
     void nach_aktion();
     void hilfe_zeigen();
+    void ergebnisse_bauen();
+    // The result plane that came up: its fields and its charts from the record.
+    void ausgabe_auffrischen();
+    void zoom_zeigen();
 
     QtDialogs qt_dialoge_;
     Dialogs* dialoge_;
@@ -70,6 +81,10 @@ private:
     std::string befehlszeile_;
     std::unique_ptr<GeometrieFlaechen> geometrie_flaechen_;
     std::unique_ptr<UebersichtFlaechen> uebersicht_flaechen_;
+    std::unique_ptr<HeizenFlaechen> heizen_flaechen_;
+    std::unique_ptr<KuehlenFlaechen> kuehlen_flaechen_;
+    std::unique_ptr<SankeyFlaechen> sankey_flaechen_;
+    HeizFelder heiz_felder_;
     std::unique_ptr<Auffrischtabelle> auffrischen_;
     Diagrammeinstellung einstellung_;
     std::vector<ChartWidget*> diagramme_;

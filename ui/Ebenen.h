@@ -6,11 +6,21 @@
 // English captions are laid over them afterwards, and only then are the controls bound, so that the
 // models' texts win over the design's.
 
+#include "charts/Flaechen.h"
+
+#include <array>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
+class QFrame;
+class QLabel;
+class QPushButton;
 class QWidget;
+class Tooltiprahmen;
+struct Diagrammeinstellung;
+struct Projekt;
 class Bindungen;
 class ChartWidget;
 class E_Daemmung;
@@ -32,13 +42,76 @@ struct GeometrieDiagramme {
 };
 GeometrieDiagramme geometrie_bauen(QWidget& ebene, E_Geometrie& g, const std::string& grafiken,
                                    Ebenenbau& bau);
+// The result planes are built on the record and the chart settings they show; both must outlive
+// the plane, as the tooltips and the month buttons read them.
+
 // The overview plane: monthly and yearly demand, the hours of the three classes and the
-// temperature course of the chosen month.
+// temperature course of the chosen month, with its twelve month buttons and the marker
+// AktiverMonat lying on the chosen one. The month starts at 7.
 struct UebersichtDiagramme {
     ChartWidget *Monatsbilanz = nullptr, *JahrBilanz = nullptr, *UeberGrafik = nullptr,
                 *UeberJahr = nullptr, *Temperaturen = nullptr;
+    std::array<QPushButton*, 12> Monatsbutton{}; // index 0 is January
+    QFrame* AktiverMonat = nullptr;
+    QLabel* AktiverMonat1 = nullptr;
+    Tooltiprahmen* tooltip = nullptr;
 };
-UebersichtDiagramme uebersicht_bauen(QWidget& ebene, Ebenenbau& bau);
+UebersichtDiagramme uebersicht_bauen(QWidget& ebene, Projekt& p, const Diagrammeinstellung& e,
+                                     Ebenenbau& bau);
+// Monatsbutton_Click: the month m (1..12) chosen, the marker laid on its button and the
+// temperature chart drawn anew.
+void monat_waehlen(UebersichtDiagramme& d, Projekt& p, const Diagrammeinstellung& e, int m);
+
+// The heating plane: month and year balance, utilisation, the facade bars and the ten result
+// fields (qh_anz ... qtrs_anz, in the order of HeizFelder).
+struct HeizenDiagramme {
+    ChartWidget *Heizbilanz = nullptr, *JahrBilanz = nullptr, *NutzungsgradMonat = nullptr,
+                *NutzungsgradJahr = nullptr;
+    ChartWidget *Gewinne_N = nullptr, *Verluste_N = nullptr, *Gewinne_S = nullptr,
+                *Verluste_S = nullptr, *Gewinne_O = nullptr, *Verluste_O = nullptr,
+                *Gewinne_W = nullptr, *Verluste_W = nullptr;
+    QLabel *qsols_anz = nullptr, *qis_anz = nullptr, *qh_s_anz = nullptr, *qinfs_anz = nullptr,
+           *qtrs_anz = nullptr;
+    QLabel *qh_anz = nullptr, *qsol_anz = nullptr, *qi_anz = nullptr, *qinf_anz = nullptr,
+           *qtr_anz = nullptr;
+    Tooltiprahmen* tooltip = nullptr;
+};
+HeizenDiagramme heizen_bauen(QWidget& ebene, const Projekt& p, const Diagrammeinstellung& e,
+                             Ebenenbau& bau);
+// The surfaces of the plane as the chart routines take them, writing the fields to `felder`.
+HeizenFlaechen heizen_flaechen(const HeizenDiagramme& d, HeizFelder& felder);
+// Shows the result fields as HeizFelderAusfuellen wrote them.
+void heizfelder_zeigen(const HeizenDiagramme& d, const HeizFelder& f);
+
+// The cooling plane: hours of overheating per day, cooling demand and cooling degree hours.
+struct KuehlenDiagramme {
+    ChartWidget *StundenProTagMonat = nullptr, *StundenProTagJahr = nullptr,
+                *KuehlbedarfMonat = nullptr, *KuehlbedarfJahr = nullptr,
+                *KuehlGradStundenMonat = nullptr, *KuehlGradStundenJahr = nullptr;
+    Tooltiprahmen* tooltip = nullptr;
+};
+KuehlenDiagramme kuehlen_bauen(QWidget& ebene, const Projekt& p, const Diagrammeinstellung& e,
+                               Ebenenbau& bau);
+
+// The energy flow plane: the heating and the cooling diagram under their captions.
+struct SankeyDiagramme {
+    ChartWidget *Sankey = nullptr, *Sankey_Kuehlen = nullptr;
+};
+SankeyDiagramme sankey_bauen(QWidget& ebene, Ebenenbau& bau);
+
+// The climate and building plane: labels only, filled from the record by klima_ausfuellen.
+struct KlimaFelder {
+    QLabel *anz_klimaregion = nullptr, *anz_MaxJahrTemp = nullptr, *anz_MaxMonatTemp = nullptr,
+           *anz_MaxMonatName = nullptr, *anz_MittelJahrTemp = nullptr, *anz_MinMonatTemp = nullptr,
+           *anz_MinMonatName = nullptr, *anz_MinJahrTemp = nullptr, *anz_Heizgradtage = nullptr;
+    QLabel *anz_Umittel = nullptr, *anz_Tspez = nullptr, *anz_Vspez = nullptr,
+           *anz_TVspez = nullptr, *anz_tau = nullptr, *anz_Heizlast = nullptr,
+           *anz_heizlast_spez = nullptr, *anz_kuehllast = nullptr, *anz_kuehllast_spez = nullptr,
+           *anz_Heizgrenztemp = nullptr, *anz_Heiztage = nullptr;
+};
+KlimaFelder klima_bauen(QWidget& ebene);
+// Writes every label from p.Klimainfo and the loads of the record, `dez` the decimal mark.
+void klima_ausfuellen(const KlimaFelder& f, const Projekt& p, char dez);
 void fenster_bauen(QWidget& ebene, E_Fenster& f, Ebenenbau& bau);
 void daemmung_bauen(QWidget& ebene, E_Daemmung& d, Ebenenbau& bau);
 void gebaeude_bauen(QWidget& ebene, E_Gebaeude& g, Ebenenbau& bau);

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Tooltiprahmen.h"
+
+#include "charts/Ebenenlage.h"
+#include "charts/Tooltiptexte.h"
+#include "ui/ChartWidget.h"
+
+#include <QCursor>
+#include <QFrame>
+#include <QLabel>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+Tooltiprahmen::Tooltiprahmen(QWidget& ebene) : QObject(&ebene), ebene_(ebene) {
+    Frame_ToolTip = new QFrame(&ebene);
+    Frame_ToolTip->setObjectName(QStringLiteral("Frame_ToolTip"));
+    Frame_ToolTip->setFrameStyle(QFrame::Box | QFrame::Plain);
+    Frame_ToolTip->setAutoFillBackground(true);
+    QPalette pal = Frame_ToolTip->palette();
+    pal.setColor(QPalette::Window, QColor(255, 255, 225));
+    Frame_ToolTip->setPalette(pal);
+    Label_Tooltip = new QLabel(QStringLiteral("Infos"), Frame_ToolTip);
+    Label_Tooltip->setObjectName(QStringLiteral("Label_Tooltip"));
+    Label_Tooltip->move(4, 3);
+    Label_Tooltip->setMouseTracking(true);
+    Label_Tooltip->installEventFilter(this);
+    Frame_ToolTip->setMouseTracking(true);
+    Frame_ToolTip->installEventFilter(this);
+    Frame_ToolTip->hide();
+    Timer_Tip_ein.setObjectName(QStringLiteral("Timer_Tip_ein"));
+    Timer_Tip_ein.setInterval(1000);
+    Timer_Tip_ein.setSingleShot(true);
+    connect(&Timer_Tip_ein, &QTimer::timeout, this, [this] { zeigen(); });
+}
+
+void Tooltiprahmen::beobachten(ChartWidget* chart, Text text) {
+    chart->setMouseTracking(true);
+    chart->installEventFilter(this);
+    texte_[chart] = std::move(text);
+}
+
+bool Tooltiprahmen::eventFilter(QObject* o, QEvent* e) {
+    if (e->type() != QEvent::MouseMove) {
+        return false;
+    }
+    if (o == Label_Tooltip || o == Frame_ToolTip) {
+        verbergen();
+        return false;
+    }
+    const auto t = texte_.find(o);
+    if (t == texte_.end()) {
+        return false;
+    }
+    auto* chart = static_cast<ChartWidget*>(o);
+    const QPointF punkt = static_cast<QMouseEvent*>(e)->position();
+    const std::string text = t->second(punkt.x());
+    if (!auf_balken(chart->flaeche(), punkt.x(), punkt.y()) || text.empty()) {
+        verbergen();
+        return false;
+    }
+    gemerkt_ = QCursor::pos();
+    if (!Frame_ToolTip->isVisible()) {
+        Timer_Tip_ein.start();
+    }
+    QString zeilen = QString::fromStdString(text);
+    zeilen.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    Label_Tooltip->setText(zeilen);
+    Label_Tooltip->adjustSize();
+    Frame_ToolTip->resize(Label_Tooltip->width() + 8, Label_Tooltip->height() + 6);
+    return false;
+}
+
+void Tooltiprahmen::zeigen() {
+    // Only a pointer at rest since the last move brings the frame up.
+    if (QCursor::pos() != gemerkt_) {
+        return;
+    }
+    const QPoint auf_ebene = ebene_.mapFromGlobal(gemerkt_);
+    const Lagepunkt lage = tooltip_lage({auf_ebene.x(), auf_ebene.y()});
+    Frame_ToolTip->move(lage.x, lage.y);
+    Frame_ToolTip->raise();
+    Frame_ToolTip->show();
+}
+
+void Tooltiprahmen::verbergen() {
+    Frame_ToolTip->hide();
+    Timer_Tip_ein.stop();
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QTimer>
+
+#include <functional>
+#include <map>
+#include <string>
+
+class ChartWidget;
+class QFrame;
+class QLabel;
+class QWidget;
+
+// The tooltip of a result plane: the frame Frame_ToolTip with Label_Tooltip and the timer
+// Timer_Tip_ein. A move over a bar of a watched chart remembers the pointer and starts the timer
+// unless the frame is up; when the timer fires and the pointer still stands where it was
+// remembered, the frame comes up 5 pixels left of and 20 above it. A move off the bars, or over
+// the frame itself, hides it.
+class Tooltiprahmen : public QObject {
+public:
+    // The text of a chart at the pointer's x pixel, lines parted by carriage returns; an empty
+    // text shows nothing.
+    using Text = std::function<std::string(double x)>;
+
+    explicit Tooltiprahmen(QWidget& ebene);
+    void beobachten(ChartWidget* chart, Text text);
+
+    QFrame* Frame_ToolTip = nullptr;
+    QLabel* Label_Tooltip = nullptr;
+    QTimer Timer_Tip_ein; // 1000 ms, single shot
+
+protected:
+    bool eventFilter(QObject* o, QEvent* e) override;
+
+private:
+    void zeigen();
+    void verbergen();
+
+    QWidget& ebene_;
+    std::map<QObject*, Text> texte_;
+    QPoint gemerkt_; // the pointer on the screen at the last move over a bar
+};
