@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One scroll step of the desktop program on the offscreen platform: the arrow of a scroll bar
 // of the shown input plane, its handler with the whole recalculation, and the main window
-// painted anew. Run with repetitions, the median is the figure that counts.
+// painted anew. Run with repetitions, the median is the figure that counts. Each step runs once
+// with the overview plane shown, whose four charts and temperature course the refresh table
+// redraws, and once with the climate/building plane, which shows labels only.
 #include "project/c_glob.h"
 #include "ui/Desktopprogramm.h"
 
@@ -12,12 +14,14 @@
 
 namespace {
 
-// A step on the bar `balken` of the input plane `ebene` (by the order of E_Menue).
-void schritt(benchmark::State& state, int ebene, const char* balken) {
+// A step on the bar `balken` of the input plane `ebene` (by the order of E_Menue), with the
+// output plane `ausgabe` shown (by the order of A_Menue).
+void schritt(benchmark::State& state, int ebene, const char* balken, int ausgabe) {
     Desktopprogramm programm;
     programm.starten("d");
     Hauptfenster& haupt = *programm.haupt;
     haupt.eingabe_zeigen(ebene);
+    haupt.ausgabe_zeigen(ausgabe);
     auto* sb = haupt.eingabe[static_cast<std::size_t>(ebene)]->findChild<QScrollBar*>(balken);
     if (sb == nullptr) {
         state.SkipWithError("no such scroll bar");
@@ -35,13 +39,25 @@ void schritt(benchmark::State& state, int ebene, const char* balken) {
 }
 
 void BM_laenge(benchmark::State& state) {
-    schritt(state, Hauptfenster::Geometrie, "l_sb");
+    schritt(state, Hauptfenster::Geometrie, "l_sb", Hauptfenster::Uebersicht);
 }
 void BM_orientierung(benchmark::State& state) {
-    schritt(state, Hauptfenster::Geometrie, "orient_sb");
+    schritt(state, Hauptfenster::Geometrie, "orient_sb", Hauptfenster::Uebersicht);
 }
 void BM_fensteranteil_sued(benchmark::State& state) {
-    schritt(state, Hauptfenster::Fenster, "f_sb(1)");
+    schritt(state, Hauptfenster::Fenster, "f_sb(1)", Hauptfenster::Uebersicht);
+}
+void BM_laenge_ohne_diagramme(benchmark::State& state) {
+    schritt(state, Hauptfenster::Geometrie, "l_sb", Hauptfenster::KlimaGebaeude);
+}
+void BM_fensteranteil_sued_ohne_diagramme(benchmark::State& state) {
+    schritt(state, Hauptfenster::Fenster, "f_sb(1)", Hauptfenster::KlimaGebaeude);
+}
+void BM_fensteranteil_sued_heizen(benchmark::State& state) {
+    schritt(state, Hauptfenster::Fenster, "f_sb(1)", Hauptfenster::Heizen);
+}
+void BM_fensteranteil_sued_sankey(benchmark::State& state) {
+    schritt(state, Hauptfenster::Fenster, "f_sb(1)", Hauptfenster::Sankey);
 }
 
 } // namespace
@@ -49,6 +65,10 @@ void BM_fensteranteil_sued(benchmark::State& state) {
 BENCHMARK(BM_laenge)->Unit(benchmark::kMillisecond)->Repetitions(5);
 BENCHMARK(BM_orientierung)->Unit(benchmark::kMillisecond)->Repetitions(5);
 BENCHMARK(BM_fensteranteil_sued)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(BM_laenge_ohne_diagramme)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(BM_fensteranteil_sued_ohne_diagramme)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(BM_fensteranteil_sued_heizen)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(BM_fensteranteil_sued_sankey)->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
