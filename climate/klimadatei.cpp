@@ -2,6 +2,7 @@
 #include "climate/klimadatei.h"
 
 #include "climate/Sonne.h"
+#include "climate/klimainfo.h"
 #include "climate/monatsstrahlung.h"
 #include "climate/numerisch.h"
 #include "project/FatalError.h"
@@ -129,4 +130,7 @@ void klimadatei_lesen(Projekt& p, std::string_view text, const std::string& name
     p.Wetter = *wetter;
     dachraum_setzen(p);
     monatsstrahlung_berechnen(p);
+    // The station's year figures depend on its data alone: every read brings them along, so a
+    // new project shows them as well as a chosen station.
+    klima_jahreswerte(p);
 }

@@ -19,9 +19,9 @@ constexpr int KLIMADATEI_ZEILEN = 8766;
 std::vector<std::string_view> zeilen_teilen(std::string_view text);
 
 // Reads the station file p.KlimaOrdner / p.Klimadatei: sets Monat().Tage, Breite,
-// Laengenkorrektur, Wetter, Dachraum, and through monatsstrahlung_berechnen Monat().Tmittel and
-// Monat().Strahlung_*. A missing or short file throws FatalError and leaves the former climate in
-// place.
+// Laengenkorrektur, Wetter, Dachraum, through monatsstrahlung_berechnen Monat().Tmittel and
+// Monat().Strahlung_*, and the station's year figures (klima_jahreswerte). A missing or short file
+// throws FatalError and leaves the former climate in place.
 void klimadatei_lesen(Projekt& p);
 
 // The same from a text already in memory; `name` is used in messages.

@@ -3,10 +3,8 @@
 
 #include "calc/c_mod.h"
 #include "climate/klimadatei.h"
-#include "climate/klimainfo.h"
 
 void wetter_laden(Projekt& p) {
     klimadatei_lesen(p);
     alles_berechnen(p);
-    klima_jahreswerte(p);
 }

@@ -3,6 +3,6 @@
 
 struct Projekt;
 
-// Makes the station named by p.Klimadatei the current climate: reads it, recalculates, and
-// writes the climate figures of the station.
+// Makes the station named by p.Klimadatei the current climate: reads it (with its year figures)
+// and recalculates.
 void wetter_laden(Projekt& p);

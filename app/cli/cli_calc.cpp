@@ -5,7 +5,6 @@
 #include "app/cli/pfade.h"
 #include "calc/c_mod.h"
 #include "climate/klimadatei.h"
-#include "climate/klimainfo.h"
 #include "project/c_glob.h"
 
 int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler) {
@@ -54,7 +53,6 @@ int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::os
     klimadatei_lesen(p);
     p.FormLoadGuard = 0;
     alles_berechnen(p);
-    klima_jahreswerte(p);
 
     aus << ergebnis_json(p, stunden) << "\n";
     return 0;

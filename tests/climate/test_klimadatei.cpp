@@ -40,6 +40,10 @@ TEST(Klimadatei, FirstRowIsTheLastHourOfTheYear) {
     EXPECT_FLOAT_EQ(p->Wetter(12, 31, 23).Ta, 23.5f);
     EXPECT_EQ(p->Monat[2].Tage, 28);
     EXPECT_EQ(p->Monat[12].Tage, 31);
+    // Every read brings the station's year figures along.
+    EXPECT_FLOAT_EQ(p->Klimainfo.MaxJahrTemp, 24.9f);
+    EXPECT_FLOAT_EQ(p->Klimainfo.MinJahrTemp, 1.0f);
+    EXPECT_GE(p->Klimainfo.MaxMonat, 1);
 }
 
 TEST(Klimadatei, HeaderGivesLatitudeAndLongitudeCorrection) {

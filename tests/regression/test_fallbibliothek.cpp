@@ -8,7 +8,6 @@
 //   git diff tests/regression/golden/
 #include "app/cli/ergebnis_json.h"
 #include "calc/c_mod.h"
-#include "climate/klimainfo.h"
 #include "tests/support/Testprojekt.h"
 
 #include <cstdint>
@@ -117,7 +116,6 @@ std::string ergebnis(const Fall& fall) {
     auto p = neues_testprojekt(ordner);
     fall.aendern(*p);
     alles_berechnen(*p);
-    klima_jahreswerte(*p);
     char summe[32];
     std::snprintf(summe, sizeof summe, "%016llx", static_cast<unsigned long long>(pruefsumme(*p)));
     return ergebnis_json(*p, false) + "\nstunden_fnv1a " + summe + "\n";
