@@ -118,6 +118,8 @@ void Desktopprogramm::fenster_bauen() {
     ::fenster_bauen(*haupt->eingabe[Hauptfenster::Fenster], ebenen->fenster, bau);
     daemmung_bauen(*haupt->eingabe[Hauptfenster::Daemmung], ebenen->daemmung, bau);
     gebaeude_bauen(*haupt->eingabe[Hauptfenster::Gebaeude], ebenen->gebaeude, bau);
+    energie_diagramme = energie_bauen(*haupt->eingabe[Hauptfenster::Energie], ebenen->energie, p,
+                                      einstellung_, bau);
     uebersicht_diagramme =
         uebersicht_bauen(*haupt->ausgabe[Hauptfenster::Uebersicht], p, einstellung_, bau);
     heizen_diagramme = heizen_bauen(*haupt->ausgabe[Hauptfenster::Heizen], p, einstellung_, bau);
@@ -137,6 +139,7 @@ void Desktopprogramm::fenster_bauen() {
         for (std::size_t i = 0; i < namen.size(); ++i) {
             unuebersetzt += fenster_uebersetzen(*haupt->eingabe[i], namen[i]);
         }
+        unuebersetzt += fenster_uebersetzen(*haupt->eingabe[Hauptfenster::Energie], "E_Energie");
         const std::array<const char*, 5> ausgaben{"A_Uebersicht", "A_Klima", "A_Heizen",
                                                   "A_Kuehlen", "A_Sankey"};
         for (std::size_t i = 0; i < ausgaben.size(); ++i) {
@@ -212,6 +215,9 @@ void Desktopprogramm::ergebnisse_bauen() {
                         k.KuehlGradStundenMonat->flaeche(), k.KuehlGradStundenJahr->flaeche()});
     sankey_flaechen_ = std::make_unique<SankeyFlaechen>(SankeyFlaechen{
         sankey_diagramme.Sankey->flaeche(), sankey_diagramme.Sankey_Kuehlen->flaeche()});
+    const EnergieDiagramme& en = energie_diagramme;
+    energie_flaechen_ = std::make_unique<EnergieFlaechen>(EnergieFlaechen{
+        en.Monatsuebersicht->flaeche(), en.Picture2->flaeche(), en.Picture3->flaeche()});
     auffrischen_ = std::make_unique<Auffrischtabelle>(
         p, ergebnisebenen(),
         [this](Ebene e) {
@@ -230,7 +236,7 @@ void Desktopprogramm::ergebnisse_bauen() {
             case Ebene::KlimaGebaeude:
                 return a == Hauptfenster::KlimaGebaeude;
             case Ebene::Energie:
-                return false;
+                return haupt->eingabe_gezeigt() == Hauptfenster::Energie;
             }
             return false;
         },
@@ -258,6 +264,8 @@ void Desktopprogramm::ergebnisse_bauen() {
     beim_zeigen(k.KuehlGradStundenMonat, Flaeche::KuehlGradStundenMonat);
     beim_zeigen(sankey_diagramme.Sankey, Flaeche::Sankey);
     beim_zeigen(sankey_diagramme.Sankey_Kuehlen, Flaeche::Sankey_Kuehlen);
+    beim_zeigen(en.Monatsuebersicht, Flaeche::Monatsuebersicht);
+    beim_zeigen(en.Picture2, Flaeche::Picture2);
 
     for (std::size_t i = 0; i < u.Monatsbutton.size(); ++i) {
         QObject::connect(u.Monatsbutton[i], &QPushButton::clicked, haupt.get(), [this, i] {
@@ -310,6 +318,7 @@ Ergebnisebenen Desktopprogramm::ergebnisebenen() {
     x.heizen = heizen_flaechen_.get();
     x.kuehlen = kuehlen_flaechen_.get();
     x.sankey = sankey_flaechen_.get();
+    x.energie = energie_flaechen_.get();
     x.klima_ausfuellen = [this](const Projekt& q) {
         klima_ausfuellen(klima_felder, q, einstellung_.dezimal);
     };

@@ -54,6 +54,7 @@ public:
     KuehlenDiagramme kuehlen_diagramme;
     SankeyDiagramme sankey_diagramme;
     KlimaFelder klima_felder;
+    EnergieDiagramme energie_diagramme;
     // The enlarged temperature window, made by the first click on the overview's chart.
     std::unique_ptr<ZoomFenster> zoom;
     // How many rows of the caption tables found no control at the English start.
@@ -84,6 +85,7 @@ private:
     std::unique_ptr<HeizenFlaechen> heizen_flaechen_;
     std::unique_ptr<KuehlenFlaechen> kuehlen_flaechen_;
     std::unique_ptr<SankeyFlaechen> sankey_flaechen_;
+    std::unique_ptr<EnergieFlaechen> energie_flaechen_;
     HeizFelder heiz_felder_;
     std::unique_ptr<Auffrischtabelle> auffrischen_;
     Diagrammeinstellung einstellung_;

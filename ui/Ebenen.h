@@ -24,6 +24,7 @@ struct Projekt;
 class Bindungen;
 class ChartWidget;
 class E_Daemmung;
+class E_Energie;
 class E_Fenster;
 class E_Gebaeude;
 class E_Geometrie;
@@ -112,6 +113,17 @@ struct KlimaFelder {
 KlimaFelder klima_bauen(QWidget& ebene);
 // Writes every label from p.Klimainfo and the loads of the record, `dez` the decimal mark.
 void klima_ausfuellen(const KlimaFelder& f, const Projekt& p, char dez);
+// The energy plane: the three choices with their buttons and the list panel Frame_Auswahl, the
+// end and primary energy fields with their captions, the two pictograms and the monthly chart
+// with its tooltip. The record and the chart settings must outlive the plane.
+struct EnergieDiagramme {
+    ChartWidget *Monatsuebersicht = nullptr, *Picture2 = nullptr, *Picture3 = nullptr;
+    QFrame* Frame_Auswahl = nullptr;
+    std::array<QLabel*, 9> Label_Auswahl{}; // the list's entries 1..9 at index 0..8
+    Tooltiprahmen* tooltip = nullptr;
+};
+EnergieDiagramme energie_bauen(QWidget& ebene, E_Energie& g, const Projekt& p,
+                               const Diagrammeinstellung& e, Ebenenbau& bau);
 void fenster_bauen(QWidget& ebene, E_Fenster& f, Ebenenbau& bau);
 void daemmung_bauen(QWidget& ebene, E_Daemmung& d, Ebenenbau& bau);
 void gebaeude_bauen(QWidget& ebene, E_Gebaeude& g, Ebenenbau& bau);

@@ -34,10 +34,14 @@ Tooltiprahmen::Tooltiprahmen(QWidget& ebene) : QObject(&ebene), ebene_(ebene) {
     connect(&Timer_Tip_ein, &QTimer::timeout, this, [this] { zeigen(); });
 }
 
-void Tooltiprahmen::beobachten(ChartWidget* chart, Text text) {
+void Tooltiprahmen::beobachten(ChartWidget* chart, Text text, Treffer treffer) {
     chart->setMouseTracking(true);
     chart->installEventFilter(this);
     texte_[chart] = std::move(text);
+    if (!treffer) {
+        treffer = [chart](double x, double y) { return auf_balken(chart->flaeche(), x, y); };
+    }
+    treffer_[chart] = std::move(treffer);
 }
 
 bool Tooltiprahmen::eventFilter(QObject* o, QEvent* e) {
@@ -52,10 +56,9 @@ bool Tooltiprahmen::eventFilter(QObject* o, QEvent* e) {
     if (t == texte_.end()) {
         return false;
     }
-    auto* chart = static_cast<ChartWidget*>(o);
     const QPointF punkt = static_cast<QMouseEvent*>(e)->position();
     const std::string text = t->second(punkt.x());
-    if (!auf_balken(chart->flaeche(), punkt.x(), punkt.y()) || text.empty()) {
+    if (!treffer_[o](punkt.x(), punkt.y()) || text.empty()) {
         verbergen();
         return false;
     }

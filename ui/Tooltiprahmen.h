@@ -25,8 +25,12 @@ public:
     // text shows nothing.
     using Text = std::function<std::string(double x)>;
 
+    // Whether the pointer at (x, y) pixels stands on a bar of the chart.
+    using Treffer = std::function<bool(double x, double y)>;
+
     explicit Tooltiprahmen(QWidget& ebene);
-    void beobachten(ChartWidget* chart, Text text);
+    // Without `treffer` a bar is any pixel that differs from the chart's background.
+    void beobachten(ChartWidget* chart, Text text, Treffer treffer = nullptr);
 
     QFrame* Frame_ToolTip = nullptr;
     QLabel* Label_Tooltip = nullptr;
@@ -41,5 +45,6 @@ private:
 
     QWidget& ebene_;
     std::map<QObject*, Text> texte_;
+    std::map<QObject*, Treffer> treffer_;
     QPoint gemerkt_; // the pointer on the screen at the last move over a bar
 };
