@@ -118,6 +118,8 @@ void Desktopprogramm::fenster_bauen() {
     ::fenster_bauen(*haupt->eingabe[Hauptfenster::Fenster], ebenen->fenster, bau);
     daemmung_bauen(*haupt->eingabe[Hauptfenster::Daemmung], ebenen->daemmung, bau);
     gebaeude_bauen(*haupt->eingabe[Hauptfenster::Gebaeude], ebenen->gebaeude, bau);
+    klimawahl_felder = klimawahl_bauen(*haupt->eingabe[Hauptfenster::Klima], ebenen->klima, p,
+                                       *dialoge_, grafiken, bau);
     energie_diagramme = energie_bauen(*haupt->eingabe[Hauptfenster::Energie], ebenen->energie, p,
                                       einstellung_, bau);
     uebersicht_diagramme =

@@ -55,6 +55,7 @@ public:
     SankeyDiagramme sankey_diagramme;
     KlimaFelder klima_felder;
     EnergieDiagramme energie_diagramme;
+    KlimawahlFelder klimawahl_felder;
     // The enlarged temperature window, made by the first click on the overview's chart.
     std::unique_ptr<ZoomFenster> zoom;
     // How many rows of the caption tables found no control at the English start.

@@ -16,7 +16,12 @@
 
 class QFrame;
 class QLabel;
+class QLineEdit;
 class QPushButton;
+class QRadioButton;
+class QComboBox;
+class Dialogs;
+struct E_Klima;
 class QWidget;
 class Tooltiprahmen;
 struct Diagrammeinstellung;
@@ -124,6 +129,18 @@ struct EnergieDiagramme {
 };
 EnergieDiagramme energie_bauen(QWidget& ebene, E_Energie& g, const Projekt& p,
                                const Diagrammeinstellung& e, Ebenenbau& bau);
+// The climate plane: the three scope options; for Germany the region map, whose press picks the
+// region by colour, the region list and the post code field with its key filter and Enter; for
+// Europe and the world the station list. `grafiken` is the folder of the map pictures.
+struct KlimawahlFelder {
+    std::array<QRadioButton*, 3> Option{}; // Germany, Europe, World
+    QLabel* Picture1 = nullptr;            // the German map
+    QComboBox *Klimaregionwahl = nullptr, *Klimaregionwahl2 = nullptr;
+    QLineEdit* plz = nullptr;
+    QPushButton* PLZsuchen = nullptr;
+};
+KlimawahlFelder klimawahl_bauen(QWidget& ebene, E_Klima& k, Projekt& p, Dialogs& d,
+                                const std::string& grafiken, Ebenenbau& bau);
 void fenster_bauen(QWidget& ebene, E_Fenster& f, Ebenenbau& bau);
 void daemmung_bauen(QWidget& ebene, E_Daemmung& d, Ebenenbau& bau);
 void gebaeude_bauen(QWidget& ebene, E_Gebaeude& g, Ebenenbau& bau);

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The climate plane of the desktop program on the offscreen platform: the post code field with
+// its key filter and Enter, and the German map following the region.
+#include "project/c_glob.h"
+#include "tests/project/SkriptDialogs.h"
+#include "tests/support/Testprojekt.h"
+#include "ui/Desktopprogramm.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QtTest>
+
+#include <filesystem>
+
+class TestKlimaebene : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<SkriptDialogs> dialoge;
+    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<TempOrdner> klima;
+
+private slots:
+    void initTestCase() {
+        klima = std::make_unique<TempOrdner>();
+        std::filesystem::copy(VELMARIS_SOURCE_DIR "/klima", klima->pfad(),
+                              std::filesystem::copy_options::recursive);
+    }
+
+    void fuenfstellige_postleitzahl_waehlt_die_region_ihres_praefixes() {
+        dialoge = std::make_unique<SkriptDialogs>();
+        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
+        programm->klimaordner = klima->pfad().string();
+        programm->starten("d");
+        programm->haupt->eingabe_zeigen(Hauptfenster::Klima);
+        const KlimawahlFelder& f = programm->klimawahl_felder;
+        QTest::mouseClick(f.Option[0], Qt::LeftButton);
+        Projekt& p = programm->p;
+        QCOMPARE(p.Klimaauswahl, int16_t{1});
+        QVERIFY(f.plz->isVisible());
+        QVERIFY(!f.Klimaregionwahl2->isVisible());
+
+        // Letters are dropped, a sixth digit is not taken.
+        QTest::keyClicks(f.plz, QStringLiteral("2a0x0955"));
+        QCOMPARE(f.plz->text(), QStringLiteral("20095"));
+        QTest::keyClick(f.plz, Qt::Key_Return);
+        // The prefix 200 lies in region 3.
+        QCOMPARE(p.Klimadatei, p.Regionsdatei[3]);
+        QCOMPARE(f.Klimaregionwahl->currentIndex(), 2);
+        QCOMPARE(f.Picture1->property("bild").toString(), QStringLiteral("Grafiken/klima3.bmp"));
+        QVERIFY(!f.Picture1->pixmap().isNull());
+
+        // Back-space takes the last digit.
+        QTest::keyClick(f.plz, Qt::Key_Backspace);
+        QCOMPARE(f.plz->text(), QStringLiteral("2009"));
+
+        // A press on the map at the reference pixel of region 5 picks it and clears the field.
+        QTest::mouseClick(f.Picture1, Qt::LeftButton, Qt::NoModifier, QPoint(90, 220));
+        QCOMPARE(p.Klimadatei, p.Regionsdatei[5]);
+        QCOMPARE(f.Klimaregionwahl->currentIndex(), 4);
+        QCOMPARE(f.plz->text(), QString());
+        QCOMPARE(f.Picture1->property("bild").toString(), QStringLiteral("Grafiken/klima5.bmp"));
+        const QString ordner = qEnvironmentVariable("VELMARIS_BILDER");
+        if (!ordner.isEmpty()) {
+            programm->haupt->grab().save(ordner + QStringLiteral("/klima.png"));
+        }
+        programm.reset();
+        dialoge.reset();
+    }
+};
+
+QTEST_MAIN(TestKlimaebene)
+#include "test_klimaebene.moc"

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "climate/Bitmap.h"
+#include "climate/E_Klima.h"
+#include "project/c_glob.h"
+#include "ui/Bau.h"
+#include "ui/Bindungen.h"
+#include "ui/Ebenen.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPixmap>
+
+#include <memory>
+
+using namespace bau;
+
+namespace {
+
+// The German map: a press picks the region under the pointer by the colour of the picture shown.
+class Deutschlandkarte : public QLabel {
+public:
+    using QLabel::QLabel;
+    std::function<void(int x, int y)> klick;
+
+protected:
+    void mousePressEvent(QMouseEvent* e) override {
+        if (klick) {
+            const QPoint p = e->position().toPoint();
+            klick(p.x(), p.y());
+        }
+        QLabel::mousePressEvent(e);
+    }
+};
+
+// The post code field takes its keys through the plane's filter only: digits, back-space and
+// Enter reach it as the key codes of the plane, every other key is dropped.
+class PlzFilter : public QObject {
+public:
+    std::function<void(int taste)> taste;
+
+protected:
+    bool eventFilter(QObject* o, QEvent* e) override {
+        if (e->type() != QEvent::KeyPress) {
+            return QObject::eventFilter(o, e);
+        }
+        const auto* k = static_cast<QKeyEvent*>(e);
+        int code = 0;
+        if (k->key() == Qt::Key_Backspace) {
+            code = 8;
+        } else if (k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter) {
+            code = 13;
+        } else if (k->text().size() == 1) {
+            code = k->text().at(0).unicode();
+        }
+        if (code != 0 && taste) {
+            taste(code);
+        }
+        return true;
+    }
+};
+
+void zeilen_setzen(QComboBox& cb, const Klimaliste& l) {
+    if (cb.count() != static_cast<int>(l.Eintraege.size())) {
+        cb.clear();
+        for (const std::string& z : l.Eintraege) {
+            cb.addItem(QString::fromStdString(z));
+        }
+    }
+    // A station outside the list shows its name with no row selected.
+    cb.setPlaceholderText(QString::fromStdString(l.Text));
+    if (cb.currentIndex() != l.ListIndex) {
+        cb.setCurrentIndex(l.ListIndex);
+    }
+}
+
+} // namespace
+
+KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
+                                const std::string& grafiken, Ebenenbau& bau) {
+    KlimawahlFelder f;
+    std::array<QRadioButton*, 3> optionen{};
+    const std::array<const char*, 3> namen{"Deutschland", "Europa", "Welt"};
+    for (std::size_t i = 0; i < optionen.size(); ++i) {
+        optionen[i] = option(&e, nullptr, namen[i], 8 + static_cast<int>(i) * 110, 6, 100);
+        optionen[i]->setObjectName(QStringLiteral("Option%1").arg(i + 1));
+        optionen[i]->setProperty("zeile", static_cast<int>(i));
+    }
+    f.Option = optionen;
+
+    auto* karte = new Deutschlandkarte(&e);
+    karte->setObjectName(QStringLiteral("Picture1"));
+    karte->setGeometry(8, 28, 234, 315);
+    karte->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    f.Picture1 = karte;
+    QLabel* region = text(&e, nullptr, "Klimaregion", 8, 348);
+    region->setProperty("zeile", 4);
+    f.Klimaregionwahl = liste(&e, 8, 364, 336);
+    f.Klimaregionwahl->setObjectName(QStringLiteral("Klimaregionwahl"));
+    QLabel* plz_text = text(&e, nullptr, "Postleitzahl", 8, 396);
+    plz_text->setProperty("zeile", 5);
+    f.plz = new QLineEdit(&e);
+    f.plz->setObjectName(QStringLiteral("plz"));
+    f.plz->setGeometry(100, 394, 60, 20);
+    f.PLZsuchen = knopf(&e, "PLZsuchen", "OK", 166, 393, 40, 22);
+    f.Klimaregionwahl2 = liste(&e, 8, 30, 336);
+    f.Klimaregionwahl2->setObjectName(QStringLiteral("Klimaregionwahl2"));
+
+    auto* filter = new PlzFilter;
+    filter->setParent(f.plz);
+    f.plz->installEventFilter(filter);
+
+    // The colours of the picture shown, read again only when the picture changes.
+    auto bild = std::make_shared<std::pair<std::string, Bitmap>>();
+    const std::string ordner = grafiken;
+    auto karte_von = [bild, ordner, &k]() -> const Bitmap& {
+        if (bild->first != k.Picture1) {
+            const std::string datei = k.Picture1.substr(k.Picture1.find('/') + 1);
+            bild->second = bitmap_lesen(ordner + "/" + datei);
+            bild->first = k.Picture1;
+        }
+        return bild->second;
+    };
+
+    const KlimawahlFelder w = f;
+    bau.binden.push_back([=, &k, &p, &d](Bindungen& bd) {
+        using Handler = void (*)(E_Klima&, Projekt&, Dialogs&, bool);
+        const std::array<Handler, 3> handler{Option1_Click, Option2_Click, Option3_Click};
+        for (std::size_t i = 0; i < w.Option.size(); ++i) {
+            QObject::connect(w.Option[i], &QRadioButton::toggled, w.Option[i],
+                             [&bd, &k, &p, &d, h = handler[i]](bool an) {
+                                 bd.ausfuehren([&k, &p, &d, h, an] { h(k, p, d, an); });
+                             });
+        }
+        karte->klick = [&bd, &k, &p, karte_von](int x, int y) {
+            bd.ausfuehren(
+                [&k, &p, karte_von, x, y] { Picture1_MouseDown(k, p, karte_von(), x, y); });
+        };
+        QObject::connect(w.Klimaregionwahl, QOverload<int>::of(&QComboBox::activated),
+                         w.Klimaregionwahl, [&bd, &k, &p](int i) {
+                             bd.ausfuehren([&k, &p, i] {
+                                 k.Klimaregionwahl.waehlen(i);
+                                 Klimaregionwahl_Click(k, p);
+                             });
+                         });
+        QObject::connect(w.Klimaregionwahl2, QOverload<int>::of(&QComboBox::activated),
+                         w.Klimaregionwahl2, [&bd, &k, &p](int i) {
+                             bd.ausfuehren([&k, &p, i] {
+                                 k.Klimaregionwahl2.waehlen(i);
+                                 Klimaregionwahl2_Click(k, p);
+                             });
+                         });
+        filter->taste = [&bd, &k, &p, &d](int taste) {
+            bd.ausfuehren([&k, &p, &d, taste] { plz_KeyPress(k, p, d, taste); });
+        };
+        QObject::connect(w.PLZsuchen, &QPushButton::clicked, w.PLZsuchen, [&bd, &k, &p, &d] {
+            bd.ausfuehren([&k, &p, &d] { PLZsuchen_Click(k, p, d); });
+        });
+        bd.folgen([=, &k, &p] {
+            for (std::size_t i = 0; i < w.Option.size(); ++i) {
+                const QSignalBlocker still(w.Option[i]);
+                w.Option[i]->setChecked(p.Klimaauswahl == static_cast<int>(i) + 1);
+            }
+            // Germany shows the map, the regions and the post code; the other scopes their list.
+            const bool deutschland = k.sichtbar == 1;
+            for (QWidget* x : std::initializer_list<QWidget*>{w.Picture1, w.Klimaregionwahl, w.plz,
+                                                              w.PLZsuchen, region, plz_text}) {
+                x->setVisible(deutschland);
+            }
+            w.Klimaregionwahl2->setVisible(k.sichtbar == 2 || k.sichtbar == 3);
+            {
+                const QSignalBlocker still(w.Klimaregionwahl);
+                zeilen_setzen(*w.Klimaregionwahl, k.Klimaregionwahl);
+            }
+            {
+                const QSignalBlocker still(w.Klimaregionwahl2);
+                zeilen_setzen(*w.Klimaregionwahl2, k.Klimaregionwahl2);
+            }
+            if (w.plz->text().toStdString() != k.plz) {
+                w.plz->setText(QString::fromStdString(k.plz));
+            }
+            if (karte->property("bild").toString().toStdString() != k.Picture1) {
+                const std::string datei = k.Picture1.substr(k.Picture1.find('/') + 1);
+                karte->setPixmap(QPixmap(QString::fromStdString(ordner + "/" + datei)));
+                karte->setProperty("bild", QString::fromStdString(k.Picture1));
+            }
+        });
+    });
+    return f;
+}
