@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts/ChartTheme.h"
+#include "charts/Ebenenlage.h"
 #include "charts/Tooltiptexte.h"
 #include "energy/energie.h"
 #include "planes/E_Energie.h"
@@ -179,6 +180,14 @@ EnergieDiagramme energie_bauen(QWidget& e, E_Energie& g, const Projekt& p,
         [chart, bild2](double x, double y) {
             return auf_saeule_energie(chart->flaeche(), bild2->flaeche(), x, y);
         });
+
+    // The frame stands left of the pointer and moves up where it would end below the plane.
+    QFrame* tip = d.tooltip->Frame_ToolTip;
+    d.tooltip->lage = [tip, &e](QPoint zeiger) {
+        const Lagepunkt ort =
+            tooltip_lage_energie({zeiger.x(), zeiger.y()}, tip->width(), tip->height(), e.height());
+        return QPoint(ort.x, ort.y);
+    };
 
     bau.binden.push_back([=, &g, &p](Bindungen& bd) {
         QObject::connect(c1, &QPushButton::clicked, frame,

@@ -80,8 +80,12 @@ void Tooltiprahmen::zeigen() {
         return;
     }
     const QPoint auf_ebene = ebene_.mapFromGlobal(gemerkt_);
-    const Lagepunkt lage = tooltip_lage({auf_ebene.x(), auf_ebene.y()});
-    Frame_ToolTip->move(lage.x, lage.y);
+    if (lage) {
+        Frame_ToolTip->move(lage(auf_ebene));
+    } else {
+        const Lagepunkt ort = tooltip_lage({auf_ebene.x(), auf_ebene.y()});
+        Frame_ToolTip->move(ort.x, ort.y);
+    }
     Frame_ToolTip->raise();
     Frame_ToolTip->show();
 }

@@ -35,6 +35,9 @@ public:
     QFrame* Frame_ToolTip = nullptr;
     QLabel* Label_Tooltip = nullptr;
     QTimer Timer_Tip_ein; // 1000 ms, single shot
+    // Where the frame comes up for the pointer at rest, both in pixels of the plane; empty for
+    // 5 pixels left of and 20 above the pointer.
+    std::function<QPoint(QPoint zeiger)> lage;
 
 protected:
     bool eventFilter(QObject* o, QEvent* e) override;

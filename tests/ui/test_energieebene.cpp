@@ -189,6 +189,11 @@ private slots:
                                 QString::fromStdString(format_muster(w.E[1], "0.0", ',')) +
                                 QStringLiteral(" kWh / (m² Monat)"));
         QVERIFY(zeilen[2].startsWith(QStringLiteral("Primärenergiebedarf (Strom):: ")));
+        // Left of the pointer by the frame's width and 5, 20 above it; over January that
+        // would lie left of the plane, so the frame starts at its edge.
+        const QPoint auf_ebene = ebene()->mapFromGlobal(global);
+        QVERIFY(auf_ebene.x() < t.Frame_ToolTip->width() + 5);
+        QCOMPARE(t.Frame_ToolTip->pos(), QPoint(0, auf_ebene.y() - 20));
 
         // The axis is black: no tooltip there.
         QMouseEvent achse(QEvent::MouseMove, QPointF(30, 50),
@@ -197,6 +202,19 @@ private slots:
         QApplication::sendEvent(d.Monatsuebersicht, &achse);
         QVERIFY(!t.Frame_ToolTip->isVisible());
         QVERIFY(!t.Timer_Tip_ein.isActive());
+
+        // Over December the frame has room left of the pointer.
+        const QPoint dezember(300, 93);
+        QVERIFY(b.pixelColor(dezember) == QColor(255, 0, 0));
+        const QPoint global12 = d.Monatsuebersicht->mapToGlobal(dezember);
+        QCursor::setPos(global12);
+        QMouseEvent bewegung12(QEvent::MouseMove, QPointF(dezember), QPointF(global12),
+                               Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(d.Monatsuebersicht, &bewegung12);
+        QTRY_VERIFY_WITH_TIMEOUT(t.Frame_ToolTip->isVisible(), 2000);
+        QVERIFY(t.Label_Tooltip->text().startsWith(QStringLiteral("Monat: Dezember\n")));
+        QCOMPARE(t.Frame_ToolTip->pos(),
+                 ebene()->mapFromGlobal(global12) - QPoint(t.Frame_ToolTip->width() + 5, 20));
 
         // Back to oil: the lines come back.
         waehlen("Command1", 1);
