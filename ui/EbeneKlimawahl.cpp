@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/Bitmap.h"
 #include "climate/E_Klima.h"
+#include "project/FatalError.h"
 #include "project/c_glob.h"
 #include "ui/Bau.h"
 #include "ui/Bindungen.h"
@@ -10,6 +11,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QTimer>
 
 #include <memory>
 
@@ -17,11 +19,12 @@ using namespace bau;
 
 namespace {
 
-// The German map: a press picks the region under the pointer by the colour of the picture shown.
+// The German map: a press picks the region under the pointer by the colour of the picture shown,
+// a move names it in the hover label.
 class Deutschlandkarte : public QLabel {
 public:
     using QLabel::QLabel;
-    std::function<void(int x, int y)> klick;
+    std::function<void(int x, int y)> klick, bewegung;
 
 protected:
     void mousePressEvent(QMouseEvent* e) override {
@@ -30,6 +33,13 @@ protected:
             klick(p.x(), p.y());
         }
         QLabel::mousePressEvent(e);
+    }
+    void mouseMoveEvent(QMouseEvent* e) override {
+        if (bewegung) {
+            const QPoint p = e->position().toPoint();
+            bewegung(p.x(), p.y());
+        }
+        QLabel::mouseMoveEvent(e);
     }
 };
 
@@ -93,6 +103,29 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
     karte->setGeometry(8, 28, 234, 315);
     karte->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     f.Picture1 = karte;
+    karte->setMouseTracking(true);
+    // The hover label comes up a second after the pointer rests and goes again after three.
+    f.Label2 = new QLabel(karte);
+    f.Label2->setObjectName(QStringLiteral("Label2"));
+    f.Label2->setFrameStyle(QFrame::Box | QFrame::Plain);
+    f.Label2->setAutoFillBackground(true);
+    f.Label2->hide();
+    f.Timer1 = new QTimer(karte);
+    f.Timer1->setObjectName(QStringLiteral("Timer1"));
+    f.Timer1->setInterval(1000);
+    f.Timer2 = new QTimer(karte);
+    f.Timer2->setObjectName(QStringLiteral("Timer2"));
+    f.Timer2->setInterval(3000);
+    QObject::connect(f.Timer1, &QTimer::timeout, karte, [f] {
+        f.Label2->show();
+        f.Label2->raise();
+        f.Timer1->stop();
+        f.Timer2->start();
+    });
+    QObject::connect(f.Timer2, &QTimer::timeout, karte, [f] {
+        f.Label2->hide();
+        f.Timer2->stop();
+    });
     QLabel* region = text(&e, nullptr, "Klimaregion", 8, 348);
     region->setProperty("zeile", 4);
     f.Klimaregionwahl = liste(&e, 8, 364, 336);
@@ -132,6 +165,24 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
                                  bd.ausfuehren([&k, &p, &d, h, an] { h(k, p, d, an); });
                              });
         }
+        karte->bewegung = [karte_von, w](int x, int y) {
+            w.Label2->move(x, y + 20);
+            w.Label2->hide();
+            w.Timer1->start();
+            // A map picture that cannot be read names nothing here; the press reports it.
+            std::string text;
+            try {
+                text = Picture1_Hover(karte_von(), x, y);
+            } catch (const FatalError&) {
+                text.clear();
+            }
+            if (text.empty()) {
+                w.Timer1->stop();
+                return;
+            }
+            w.Label2->setText(QString::fromStdString(text));
+            w.Label2->adjustSize();
+        };
         karte->klick = [&bd, &k, &p, karte_von](int x, int y) {
             bd.ausfuehren(
                 [&k, &p, karte_von, x, y] { Picture1_MouseDown(k, p, karte_von(), x, y); });

@@ -19,6 +19,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QTimer;
 class QComboBox;
 class Dialogs;
 struct E_Klima;
@@ -138,6 +139,8 @@ struct KlimawahlFelder {
     QComboBox *Klimaregionwahl = nullptr, *Klimaregionwahl2 = nullptr;
     QLineEdit* plz = nullptr;
     QPushButton* PLZsuchen = nullptr;
+    QLabel* Label2 = nullptr;                    // the hover label over the map
+    QTimer *Timer1 = nullptr, *Timer2 = nullptr; // shows it, then hides it
 };
 KlimawahlFelder klimawahl_bauen(QWidget& ebene, E_Klima& k, Projekt& p, Dialogs& d,
                                 const std::string& grafiken, Ebenenbau& bau);

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTimer>
 #include <QtTest>
 
 #include <filesystem>
@@ -61,6 +62,32 @@ private slots:
         QCOMPARE(f.Klimaregionwahl->currentIndex(), 4);
         QCOMPARE(f.plz->text(), QString());
         QCOMPARE(f.Picture1->property("bild").toString(), QStringLiteral("Grafiken/klima5.bmp"));
+        // Hovering region 5 names it after a second; between the regions nothing shows.
+        QMouseEvent bewegung(QEvent::MouseMove, QPointF(90, 220),
+                             QPointF(f.Picture1->mapToGlobal(QPoint(90, 220))), Qt::NoButton,
+                             Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(f.Picture1, &bewegung);
+        QVERIFY(f.Timer1->isActive());
+        QVERIFY(!f.Label2->isVisible());
+        QCOMPARE(f.Label2->text(),
+                 QStringLiteral(" Klimaregion 5 : Franken und \n nördliches Baden-Württemberg "));
+        QCOMPARE(f.Label2->pos(), QPoint(90, 240));
+        QTRY_VERIFY_WITH_TIMEOUT(f.Label2->isVisible(), 2000);
+        QVERIFY(f.Timer2->isActive());
+        QMouseEvent leer(QEvent::MouseMove, QPointF(1, 1),
+                         QPointF(f.Picture1->mapToGlobal(QPoint(1, 1))), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(f.Picture1, &leer);
+        QVERIFY(!f.Label2->isVisible());
+        QVERIFY(!f.Timer1->isActive());
+
+        // A prefix of region 0 is no valid post code: the message, and the field is emptied.
+        QTest::keyClicks(f.plz, QStringLiteral("00123"));
+        QTest::keyClick(f.plz, Qt::Key_Enter);
+        QCOMPARE(dialoge->nachrichten.back().text, std::string("  Keine gültige Postleitzahl!  "));
+        QCOMPARE(f.plz->text(), QString());
+        QCOMPARE(p.Klimadatei, p.Regionsdatei[5]);
+
         const QString ordner = qEnvironmentVariable("VELMARIS_BILDER");
         if (!ordner.isEmpty()) {
             programm->haupt->grab().save(ordner + QStringLiteral("/klima.png"));
