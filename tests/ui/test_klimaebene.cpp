@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The climate plane of the desktop program on the offscreen platform: the post code field with
 // its key filter and Enter, and the German map following the region.
+#include "climate/E_Klima.h"
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
@@ -92,6 +93,44 @@ private slots:
         if (!ordner.isEmpty()) {
             programm->haupt->grab().save(ordner + QStringLiteral("/klima.png"));
         }
+        programm.reset();
+        dialoge.reset();
+    }
+
+    void englisch_und_europa() {
+        dialoge = std::make_unique<SkriptDialogs>();
+        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
+        programm->klimaordner = klima->pfad().string();
+        programm->starten("e");
+        programm->haupt->eingabe_zeigen(Hauptfenster::Klima);
+        const KlimawahlFelder& f = programm->klimawahl_felder;
+        QCOMPARE(f.Option[0]->text(), QStringLiteral("Germany"));
+        QCOMPARE(f.Option[1]->text(), QStringLiteral("Europe"));
+        QCOMPARE(f.Option[2]->text(), QStringLiteral("World"));
+        QWidget* ebene = programm->haupt->eingabe[Hauptfenster::Klima];
+        QStringList texte;
+        for (QLabel* l : ebene->findChildren<QLabel*>()) {
+            texte << l->text();
+        }
+        QVERIFY(texte.contains(QStringLiteral("climatic region")));
+        QVERIFY(texte.contains(QStringLiteral("zip code")));
+
+        // Europe shows its station list instead of the German map.
+        QTest::mouseClick(f.Option[1], Qt::LeftButton);
+        Projekt& p = programm->p;
+        QCOMPARE(p.Klimaauswahl, int16_t{2});
+        QVERIFY(!f.Picture1->isVisible());
+        QVERIFY(!f.plz->isVisible());
+        QVERIFY(f.Klimaregionwahl2->isVisible());
+        const E_Klima& k = programm->ebenen->klima;
+        QCOMPARE(f.Klimaregionwahl2->count(),
+                 static_cast<int>(k.Klimaregionwahl2.Eintraege.size()));
+        QVERIFY(f.Klimaregionwahl2->count() > 1);
+        // Picking the second station loads its file.
+        f.Klimaregionwahl2->setCurrentIndex(1);
+        emit f.Klimaregionwahl2->activated(1);
+        QCOMPARE(p.Klimadatei, k.listen.Europa.Dateiname[1]);
+        QCOMPARE(f.Klimaregionwahl2->currentIndex(), 1);
         programm.reset();
         dialoge.reset();
     }
