@@ -1,35 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // velmaris-cli calc --new, run as a user would run it.
+#include "tests/support/Befehlszeile.h"
 #include "tests/support/Testprojekt.h"
 
-#include <array>
-#include <cstdio>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 namespace {
 
-struct Lauf {
-    int status = -1;
-    std::string aus;
-};
+using Lauf = Befehlslauf;
 
-// Runs the command line; standard error goes to `fehler_datei` when given.
+// Runs velmaris-cli with the arguments (which may redirect standard error).
 Lauf ausfuehren(const std::string& argumente) {
-    Lauf lauf;
-    const std::string befehl = std::string(VELMARIS_CLI) + " " + argumente;
-    FILE* rohr = popen(befehl.c_str(), "r");
-    if (!rohr) {
-        return lauf;
-    }
-    std::array<char, 65536> puffer;
-    std::size_t n;
-    while ((n = std::fread(puffer.data(), 1, puffer.size(), rohr)) > 0) {
-        lauf.aus.append(puffer.data(), n);
-    }
-    const int roh = pclose(rohr);
-    lauf.status = WIFEXITED(roh) ? WEXITSTATUS(roh) : -1;
-    return lauf;
+    return befehl_ausfuehren(std::string(VELMARIS_CLI) + " " + argumente);
 }
 
 std::size_t zaehlen(const std::string& text, const std::string& teil) {

@@ -1,35 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // velmaris-cli klima, run as a user would run it, on a temporary klima folder.
 #include "tests/climate_choice/Klimahilfe.h"
+#include "tests/support/Befehlszeile.h"
 
-#include <array>
-#include <cstdio>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 namespace {
 
-struct Lauf {
-    int status = -1;
-    std::string aus;
-};
+using Lauf = Befehlslauf;
 
 // Runs velmaris-cli with the arguments; standard error is dropped.
 Lauf ausfuehren(const std::string& argumente) {
-    Lauf lauf;
-    const std::string befehl = std::string(VELMARIS_CLI) + " " + argumente + " 2>/dev/null";
-    FILE* rohr = popen(befehl.c_str(), "r");
-    if (!rohr) {
-        return lauf;
-    }
-    std::array<char, 4096> puffer;
-    std::size_t n;
-    while ((n = std::fread(puffer.data(), 1, puffer.size(), rohr)) > 0) {
-        lauf.aus.append(puffer.data(), n);
-    }
-    const int roh = pclose(rohr);
-    lauf.status = WIFEXITED(roh) ? WEXITSTATUS(roh) : -1;
-    return lauf;
+    return befehl_ausfuehren(std::string(VELMARIS_CLI) + " " + argumente + " 2>/dev/null");
 }
 
 } // namespace
