@@ -7,6 +7,7 @@
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
+#include "tests/ui/Uitesthilfe.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
 #include "ui/Tooltiprahmen.h"
@@ -56,19 +57,10 @@ class TestEnergieebene : public QObject {
     }
     QString text(const char* name) { return label(name)->text(); }
     // Saves the main window when VELMARIS_BILDER names a folder.
-    void bild(const QString& name) {
-        const QString ordner = qEnvironmentVariable("VELMARIS_BILDER");
-        if (!ordner.isEmpty()) {
-            programm->haupt->grab().save(ordner + QLatin1Char('/') + name + QStringLiteral(".png"));
-        }
-    }
+    void bild(const QString& name) { bild_speichern(*programm->haupt, name); }
 
 private slots:
-    void initTestCase() {
-        klima = std::make_unique<TempOrdner>();
-        std::filesystem::copy(VELMARIS_SOURCE_DIR "/klima", klima->pfad(),
-                              std::filesystem::copy_options::recursive);
-    }
+    void initTestCase() { klima = klima_kopie(); }
     void cleanup() {
         programm.reset();
         dialoge.reset();

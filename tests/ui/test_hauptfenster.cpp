@@ -5,6 +5,7 @@
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
+#include "tests/ui/Uitesthilfe.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
 #include "ui/StartFenster.h"
@@ -60,11 +61,7 @@ class TestHauptfenster : public QObject {
     QWidget* ebene(int i) { return programm->haupt->eingabe[static_cast<std::size_t>(i)]; }
 
 private slots:
-    void initTestCase() {
-        klima = std::make_unique<TempOrdner>();
-        std::filesystem::copy(VELMARIS_SOURCE_DIR "/klima", klima->pfad(),
-                              std::filesystem::copy_options::recursive);
-    }
+    void initTestCase() { klima = klima_kopie(); }
     void cleanup() {
         programm.reset();
         dialoge.reset();

@@ -5,6 +5,7 @@
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
+#include "tests/ui/Uitesthilfe.h"
 #include "ui/Desktopprogramm.h"
 
 #include <QComboBox>
@@ -24,11 +25,7 @@ class TestKlimaebene : public QObject {
     std::unique_ptr<TempOrdner> klima;
 
 private slots:
-    void initTestCase() {
-        klima = std::make_unique<TempOrdner>();
-        std::filesystem::copy(VELMARIS_SOURCE_DIR "/klima", klima->pfad(),
-                              std::filesystem::copy_options::recursive);
-    }
+    void initTestCase() { klima = klima_kopie(); }
 
     void fuenfstellige_postleitzahl_waehlt_die_region_ihres_praefixes() {
         dialoge = std::make_unique<SkriptDialogs>();
@@ -89,10 +86,7 @@ private slots:
         QCOMPARE(f.plz->text(), QString());
         QCOMPARE(p.Klimadatei, p.Regionsdatei[5]);
 
-        const QString ordner = qEnvironmentVariable("VELMARIS_BILDER");
-        if (!ordner.isEmpty()) {
-            programm->haupt->grab().save(ordner + QStringLiteral("/klima.png"));
-        }
+        bild_speichern(*programm->haupt, QStringLiteral("klima"));
         programm.reset();
         dialoge.reset();
     }

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tests/support/Testprojekt.h"
+
+#include <QString>
+#include <memory>
+
+class QWidget;
+
+// A copy of the delivered klima folder, so that a test may write its language file without
+// touching the source tree.
+std::unique_ptr<TempOrdner> klima_kopie();
+
+// Saves a picture of the widget as NAME.png in the folder named by VELMARIS_BILDER, for a look by
+// eye; does nothing when that variable is empty.
+void bild_speichern(QWidget& fenster, const QString& name);
