@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "planes/Zahlformat.h"
+#include "climate/klimainfo_texte.h"
 #include "project/c_glob.h"
 #include "ui/Bau.h"
 #include "ui/Ebenen.h"
-
-#include <filesystem>
 
 using namespace bau;
 
@@ -93,35 +91,25 @@ KlimaFelder klima_bauen(QWidget& e) {
 }
 
 void klima_ausfuellen(const KlimaFelder& f, const Projekt& p, char dez) {
-    const Klimakennwerte& k = p.Klimainfo;
-    auto zahl = [dez](double v, const char* muster) { return qt(format_muster(v, muster, dez)); };
-    auto monat = [&p](int m) { return m >= 1 && m <= 12 ? qt(p.Monat[m].Name) : QString(); };
-    // The station by its file name, without folder and extension.
-    f.anz_klimaregion->setText(qt(std::filesystem::path(p.Klimadatei).stem().string()));
-    // The station's year values are written when a station is loaded; a record that has read
-    // its station file without that step has none yet, and the fields stay empty.
-    const bool jahreswerte = k.MaxMonat >= 1 && k.MaxMonat <= 12;
-    auto klimawert = [&](double v) { return jahreswerte ? zahl(v, "0.0") : QString(); };
-    f.anz_MaxJahrTemp->setText(klimawert(k.MaxJahrTemp));
-    f.anz_MaxMonatTemp->setText(klimawert(k.MaxMonatTemp));
-    f.anz_MaxMonatName->setText(monat(k.MaxMonat));
-    f.anz_MittelJahrTemp->setText(klimawert(k.MittelJahrTemp));
-    f.anz_MinMonatTemp->setText(klimawert(k.MinMonatTemp));
-    f.anz_MinMonatName->setText(monat(k.MinMonat));
-    f.anz_MinJahrTemp->setText(klimawert(k.MinJahrTemp));
-    f.anz_Heizgradtage->setText(zahl(k.Heizgradtage, "0"));
-    f.anz_Umittel->setText(zahl(k.Umittel, "0.00"));
-    f.anz_Tspez->setText(zahl(k.Tspez, "0.0"));
-    f.anz_Vspez->setText(zahl(k.Vspez, "0.0"));
-    f.anz_TVspez->setText(zahl(k.TVspez, "0.0"));
-    f.anz_tau->setText(zahl(k.tau_h, "0.0"));
-    // Loads per m² of usable floor; a building without floor shows none.
-    const double flaeche = p.f_nutz > 0 ? p.f_nutz : 0;
-    auto je_m2 = [&](double kw) { return flaeche > 0 ? kw * 1000 / flaeche : 0.0; };
-    f.anz_Heizlast->setText(zahl(p.Heizlast_max, "0.0"));
-    f.anz_heizlast_spez->setText(zahl(je_m2(p.Heizlast_max), "0.0"));
-    f.anz_kuehllast->setText(zahl(p.Kuehllast_max, "0.0"));
-    f.anz_kuehllast_spez->setText(zahl(je_m2(p.Kuehllast_max), "0.0"));
-    f.anz_Heizgrenztemp->setText(zahl(k.Heizgrenztemperatur, "0.0"));
-    f.anz_Heiztage->setText(QString::number(k.Heiztage));
+    const KlimainfoTexte t = klimainfo_texte(p, dez);
+    f.anz_klimaregion->setText(qt(t.anz_klimaregion));
+    f.anz_MaxJahrTemp->setText(qt(t.anz_MaxJahrTemp));
+    f.anz_MaxMonatTemp->setText(qt(t.anz_MaxMonatTemp));
+    f.anz_MaxMonatName->setText(qt(t.anz_MaxMonatName));
+    f.anz_MittelJahrTemp->setText(qt(t.anz_MittelJahrTemp));
+    f.anz_MinMonatTemp->setText(qt(t.anz_MinMonatTemp));
+    f.anz_MinMonatName->setText(qt(t.anz_MinMonatName));
+    f.anz_MinJahrTemp->setText(qt(t.anz_MinJahrTemp));
+    f.anz_Heizgradtage->setText(qt(t.anz_Heizgradtage));
+    f.anz_Umittel->setText(qt(t.anz_Umittel));
+    f.anz_Tspez->setText(qt(t.anz_Tspez));
+    f.anz_Vspez->setText(qt(t.anz_Vspez));
+    f.anz_TVspez->setText(qt(t.anz_TVspez));
+    f.anz_tau->setText(qt(t.anz_tau));
+    f.anz_Heizlast->setText(qt(t.anz_Heizlast));
+    f.anz_heizlast_spez->setText(qt(t.anz_heizlast_spez));
+    f.anz_kuehllast->setText(qt(t.anz_kuehllast));
+    f.anz_kuehllast_spez->setText(qt(t.anz_kuehllast_spez));
+    f.anz_Heizgrenztemp->setText(qt(t.anz_Heizgrenztemp));
+    f.anz_Heiztage->setText(qt(t.anz_Heiztage));
 }
