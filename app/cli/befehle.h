@@ -31,3 +31,13 @@ int befehl_import(const std::vector<std::string>& args, std::ostream& aus, std::
 // with the message for a prefix not in use. klima region X Y [--programm DIR]: the region under a
 // pixel of the German map, 0 for none.
 int befehl_klima(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler);
+
+// report PROJECT.vel OUT.rtf [--sprache d|e] [--seite 0..7] [--klima DIR]: the project opened as
+// the desktop opens it and its report written as Rich Text, all pages (0) or one. Status 2 for a
+// project that cannot be read or a file that cannot be written.
+int befehl_report(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler);
+
+// temperaturen PROJECT.vel OUT.txt [--sprache d|e] [--klima DIR]: the project opened and the
+// year's hourly temperatures written as the window's export writes them. Status 2 as for report.
+int befehl_temperaturen(const std::vector<std::string>& args, std::ostream& aus,
+                        std::ostream& fehler);

@@ -18,7 +18,11 @@ void hilfe(std::ostream& aus) {
            "                                        write the new or the opened project\n"
            "  import SOURCE --name NAME ...          convert climate data into a station file\n"
            "  klima stationen | plz CODE | region X Y\n"
-           "                                        station lists, post code and map region\n";
+           "                                        station lists, post code and map region\n"
+           "  report PROJECT.vel OUT.rtf [--sprache d|e] [--seite 0..7]\n"
+           "                                        the report as Rich Text\n"
+           "  temperaturen PROJECT.vel OUT.txt [--sprache d|e]\n"
+           "                                        the year's hourly temperatures\n";
 }
 
 } // namespace
@@ -42,6 +46,12 @@ int main(int argc, char** argv) {
         }
         if (args[0] == "klima") {
             return befehl_klima(rest, std::cout, std::cerr);
+        }
+        if (args[0] == "report") {
+            return befehl_report(rest, std::cout, std::cerr);
+        }
+        if (args[0] == "temperaturen") {
+            return befehl_temperaturen(rest, std::cout, std::cerr);
         }
         std::cerr << "velmaris-cli: unknown command \"" << args[0] << "\"\n";
         hilfe(std::cerr);
