@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The report's Rich Text: golden texts of all pages in both languages, the page frame, single
+// pages, the deliberate wording and the saved ANSI file.
+//
+// After an intended change of the report, regenerate and review the golden files:
+//   VELMARIS_GOLDEN_UPDATE=1 build/dev/tests/test_report
+//   git diff tests/report/golden/
+#include "report/RtfLeser.h"
+#include "tests/report/Reporthilfe.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::string ANFANG = "{\\rtf1\\ansi{\\fonttbl{\\f0\\froman Times New Roman;}}";
+
+std::size_t zaehlen(const std::string& text, const std::string& teil) {
+    std::size_t n = 0;
+    for (std::size_t i = text.find(teil); i != std::string::npos; i = text.find(teil, i + 1)) {
+        ++n;
+    }
+    return n;
+}
+
+// The pages of a whole report: the text between the document start and its end, cut at the
+// page breaks.
+std::vector<std::string> seiten(const std::string& ganz) {
+    std::string rumpf = ganz.substr(ANFANG.size(), ganz.size() - ANFANG.size() - 1);
+    std::vector<std::string> teile;
+    for (std::size_t k = rumpf.find("\\page"); k != std::string::npos; k = rumpf.find("\\page")) {
+        teile.push_back(rumpf.substr(0, k));
+        rumpf.erase(0, k + 5);
+    }
+    teile.push_back(rumpf);
+    return teile;
+}
+
+// The new project with a heated attic, the north wall towards a heated neighbour and a ground
+// heat pump, whose carrier is electricity.
+void variante(Reportprogramm& r) {
+    Eingabeflaechen& e = *r.programm->ebenen;
+    e.geometrie.Check_Dachgeschoss.setze(1);
+    e.gebaeude.awn_cb.setze(1);
+    e.gebaeude.awo_cb.setze(1);
+    e.energie.Command1_Click();
+    e.energie.Label_Auswahl_Click(7);
+}
+
+class Report : public ::testing::TestWithParam<const char*> {};
+
+} // namespace
+
+TEST_P(Report, AllPagesMatchTheGoldenText) {
+    Reportprogramm r(GetParam());
+    golden_vergleichen(std::string("neu_") + GetParam() + ".rtf", r.report(0));
+    variante(r);
+    if (!golden_vergleichen(std::string("variante_") + GetParam() + ".rtf", r.report(0))) {
+        GTEST_SKIP() << "golden files rewritten";
+    }
+}
+
+TEST_P(Report, WholeReportHasSixBreaksAndOneEnd) {
+    Reportprogramm r(GetParam());
+    const std::string ganz = r.report(0);
+    EXPECT_EQ(ganz.rfind(ANFANG, 0), 0u);
+    EXPECT_EQ(zaehlen(ganz, "\\page"), 6u);
+    EXPECT_EQ(ganz.back(), '}');
+    EXPECT_EQ(ganz.substr(ganz.size() - 6), "\\par }");
+    // Braces balance: the one end closes the document start.
+    EXPECT_EQ(zaehlen(ganz, "{"), zaehlen(ganz, "}"));
+    EXPECT_EQ(zaehlen(ganz, "\\qc\\plain\\b\\i\\fs60 VELM\\plain\\b\\fs60 aris \\plain \\par "),
+              7u);
+}
+
+TEST_P(Report, EachSinglePageIsItsPartOfTheWholeWithoutBreak) {
+    Reportprogramm r(GetParam());
+    const std::vector<std::string> teile = seiten(r.report(0));
+    ASSERT_EQ(teile.size(), 7u);
+    for (int s = 1; s <= 7; ++s) {
+        const std::string seite = r.report(s);
+        EXPECT_EQ(seite, ANFANG + teile[static_cast<std::size_t>(s - 1)] + "}") << "page " << s;
+        EXPECT_EQ(zaehlen(seite, "\\page"), 0u);
+    }
+}
+
+TEST_P(Report, DeliberateWordingStandsInBothLanguages) {
+    Reportprogramm r(GetParam());
+    const std::string seite4 = r.report(4);
+    EXPECT_EQ(zaehlen(seite4, " \\tab Tramsmis- \\tab "), GetParam()[0] == 'd' ? 2u : 0u);
+    EXPECT_EQ(zaehlen(seite4, "\\tab  \\tab "), 2u) << "the factor column of the year rows";
+    // The heat bridge row keeps its German label in English too.
+    EXPECT_NE(r.report(1).find("\\par      Wärmebrücken: \\tab "), std::string::npos);
+    // Page 3 ends with the heating days, " Tage" in both languages.
+    const std::string seite3 = r.report(3);
+    EXPECT_EQ(seite3.substr(seite3.size() - 11), " Tage\\par }");
+}
+
+TEST(ReportEnglisch, OwnRowsAndOrder) {
+    Reportprogramm r("e");
+    const std::string s1 = r.report(1);
+    EXPECT_NE(s1.find("\\par      efficiency factor of air conditioning: \\tab 2.5 "
+                      "kWh{\\sub cool} / kWh{\\sub electr}\\par "),
+              std::string::npos);
+    EXPECT_LT(s1.find("Kind of indoor walls"), s1.find("Kind of outdoor walls"));
+    EXPECT_NE(s1.find("          Windows area: \\tab "), std::string::npos);
+    EXPECT_EQ(zaehlen(s1, "          Window area: \\tab "), 3u);
+    EXPECT_NE(s1.find("     Length of north and south facade: \\tab 10.0 m\\par "),
+              std::string::npos);
+    // The German wall label of the English report and English region-free station row.
+    EXPECT_EQ(s1.find("Art der Außenwände"), std::string::npos);
+    EXPECT_NE(r.report(4).find(" \\tab Transm. \\tab Ventil. \\tab "), std::string::npos);
+}
+
+TEST(ReportDeutsch, DecimalCommaAndGermanOrder) {
+    Reportprogramm r("d");
+    const std::string s1 = r.report(1);
+    EXPECT_NE(s1.find("     Länge der Nord- und Südfassade: \\tab 10,0 m\\par "),
+              std::string::npos);
+    EXPECT_LT(s1.find("Art der Außenwände"), s1.find("Art der Innenwände"));
+    EXPECT_EQ(s1.find("efficiency"), std::string::npos);
+    EXPECT_NE(s1.find("     Obere Geschoßdecke:\\par           Gegen: \\tab "), std::string::npos);
+    EXPECT_EQ(s1.find("Dachhöhe"), std::string::npos) << "no roof rows without a heated attic";
+}
+
+TEST(ReportDeutsch, HeatedAtticNeighbourWallsAndElectricity) {
+    Reportprogramm r("d");
+    variante(r);
+    const std::string s1 = r.report(1);
+    EXPECT_NE(s1.find("\\par      Dach:\\par           Gegen: \\tab Außenluft\\par "),
+              std::string::npos);
+    EXPECT_EQ(s1.find("Obere Geschoßdecke"), std::string::npos);
+    EXPECT_NE(s1.find("     Dachhöhe: \\tab 1,0 m\\par      Dachfirst: \\tab in "
+                      "Nord-Süd-Richtung\\par "),
+              std::string::npos);
+    EXPECT_NE(s1.find("grenzen: \\tab Nord, Ost\\par "), std::string::npos);
+    // The long system name wraps under the value column; the transfer text heals
+    // "Auslegungs- proportionalbereich" where both halves meet on one line.
+    EXPECT_NE(s1.find("     Heizungssystem: \\tab Erdreich-Wärmepumpe, "), std::string::npos);
+    EXPECT_NE(s1.find("\\par      \\tab "), std::string::npos);
+    EXPECT_NE(s1.find("Auslegungsproportionalbereich"), std::string::npos);
+    const std::string s6 = r.report(6);
+    EXPECT_NE(s6.find("\\par      Primärenergiefaktor Strom: \\tab 3,0\\par "), std::string::npos);
+    EXPECT_NE(s6.find(" \\tab Endenergiebedarf \\tab Primärenergiebedarf\\par  \\tab Strom "
+                      "\\tab Strom\\par "),
+              std::string::npos);
+    EXPECT_EQ(s6.find("Primärener-"), std::string::npos);
+}
+
+TEST(ReportDatei, SavedFileIsAnsiAndReadsAsTheText) {
+    Reportprogramm r("d");
+    const std::string text = r.report(0);
+    const std::string pfad = (r.ordner.pfad() / "report.rtf").string();
+    ASSERT_TRUE(report_speichern(text, pfad));
+    const std::string datei = datei_lesen(pfad);
+    for (const char c : datei) {
+        ASSERT_LT(static_cast<unsigned char>(c), 0x80) << "a byte beyond ASCII in the file";
+    }
+    EXPECT_NE(datei.find("L\\'e4nge der Nord- und S\\'fcdfassade"), std::string::npos);
+    EXPECT_EQ(datei.find('\n'), std::string::npos) << "the file is one line";
+
+    const RtfDokument aus_datei = rtf_lesen(datei);
+    const RtfDokument aus_text = rtf_lesen(text);
+    ASSERT_TRUE(aus_datei.fehler.empty()) << aus_datei.fehler;
+    ASSERT_EQ(aus_datei.absaetze.size(), aus_text.absaetze.size());
+    for (std::size_t i = 0; i < aus_text.absaetze.size(); ++i) {
+        EXPECT_EQ(aus_datei.absaetze[i].text(), aus_text.absaetze[i].text());
+    }
+    EXPECT_FALSE(report_speichern(text, (r.ordner.pfad() / "fehlt" / "r.rtf").string()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sprachen, Report, testing::Values("d", "e"));
