@@ -9,6 +9,7 @@
 #include "project/c_glob.h"
 #include "project/eingaben_anzeigen.h"
 #include "ui/ChartWidget.h"
+#include "ui/ReportFenster.h"
 #include "ui/Uebersetzen.h"
 
 #include <QApplication>
@@ -188,6 +189,18 @@ void Desktopprogramm::fenster_bauen() {
     };
     haupt->hilfe = [this] { hilfe_zeigen(); };
     haupt->info = [this] { start->exec(); };
+    // The report window, modal, in the mode of its menu entry; English laid over it each time.
+    auto report_fenster = [this](ReportFenster::Modus modus) {
+        ReportFenster fenster(p, *ebenen, modus, haupt.get());
+        if (p.Sprache == "e") {
+            unuebersetzt += fenster_uebersetzen(fenster, "A_Report");
+        }
+        fenster.exec();
+    };
+    haupt->report_anzeigen = [report_fenster] { report_fenster(ReportFenster::Modus::Report); };
+    haupt->temperaturen_anzeigen = [report_fenster] {
+        report_fenster(ReportFenster::Modus::Temperaturverlauf);
+    };
     haupt->ebene_gezeigt = [this] {
         // The planes' own flags tell the driver's observers what is on the screen.
         const int e = haupt->eingabe_gezeigt();

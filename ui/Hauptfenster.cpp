@@ -119,11 +119,9 @@ void Hauptfenster::menue_bauen() {
     datei->addSeparator()->setObjectName(QStringLiteral("mnuFileSep2"));
     eintrag(datei, "mnuFileExit", "&Beenden", &beenden);
 
-    // The report window comes with the report.
     QMenu* report = menue(nullptr, "mnuAusgaben", "&Report");
-    eintrag(report, "mnuBerechnungsergebnisseExportieren", "&Report anzeigen", nullptr)
-        ->setEnabled(false);
-    eintrag(report, "mnuTemperaturExport", "&Temperaturwerte anzeigen", nullptr)->setEnabled(false);
+    eintrag(report, "mnuBerechnungsergebnisseExportieren", "&Report anzeigen", &report_anzeigen);
+    eintrag(report, "mnuTemperaturExport", "&Temperaturwerte anzeigen", &temperaturen_anzeigen);
 
     QMenu* win = menue(nullptr, "mnuWin", "&Arbeitsebene");
     const std::array<std::pair<const char*, const char*>, 6> ebenen{{{"mnuWinGeo", "&Geometrie"},
