@@ -169,3 +169,23 @@ TEST(ReportDatei, SavedFileIsAnsiAndReadsAsTheText) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sprachen, Report, testing::Values("d", "e"));
+
+TEST(ReportKlima, GermanRegionTextInBothLanguagesWithItsSecondLine) {
+    for (const char* sprache : {"d", "e"}) {
+        Reportprogramm r(sprache);
+        r.programm->p.Klimaauswahl = 1;
+        r.programm->ebenen->klima.Klimaregionwahl.waehlen(4);
+        const std::string s1 = r.report(1);
+        const std::string label =
+            sprache[0] == 'd' ? "     Klimaregion: \\tab " : "     Climatic region: \\tab ";
+        EXPECT_NE(s1.find(label + " Franken und nördliches\\par  \\tab  Baden-Würtemberg\\par "),
+                  std::string::npos)
+            << sprache;
+        r.programm->ebenen->klima.Klimaregionwahl.waehlen(11);
+        EXPECT_NE(r.report(1).find(label + " Bodensee mit Umgebung\\par \\par "),
+                  std::string::npos);
+        // Without a region the climate section has no row.
+        r.programm->ebenen->klima.Klimaregionwahl.waehlen(-1);
+        EXPECT_EQ(r.report(1).find("Klimastation"), std::string::npos);
+    }
+}
