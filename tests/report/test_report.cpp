@@ -189,3 +189,22 @@ TEST(ReportKlima, GermanRegionTextInBothLanguagesWithItsSecondLine) {
         EXPECT_EQ(r.report(1).find("Klimastation"), std::string::npos);
     }
 }
+
+TEST(ReportDeutsch, CoolingColumnsInTheirOrder) {
+    Reportprogramm r("d");
+    Projekt& p = r.programm->p;
+    ASSERT_FLOAT_EQ(p.f_nutz, 160);
+    p.Klimaeffizienz = 2.5f;
+    Monatswerte& juli = p.Monat[7];
+    juli.Kuehlbedarf = 1000;
+    juli.Stunden_heiss = 62;
+    juli.Kuehlgradstunden = 12.34f;
+    // Specific, absolute, overheated hours per day, degree hours.
+    EXPECT_NE(r.report(5).find("\\par      Juli\\tab 6,3 \\tab 1000 \\tab 2,0 \\tab 12,3\\par "),
+              std::string::npos);
+    // Demand, end energy by the efficiency, primary energy with the fixed factor 3.
+    const std::string s7 = r.report(7);
+    EXPECT_NE(s7.find("\\par      Juli\\tab 6,3 \\tab 2,5 \\tab 7,5\\par "), std::string::npos);
+    EXPECT_NE(s7.find("\\par      Jahressumme\\tab 6,3 \\tab 2,5 \\tab 7,5\\par "),
+              std::string::npos);
+}
