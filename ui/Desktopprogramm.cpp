@@ -9,6 +9,7 @@
 #include "project/c_glob.h"
 #include "project/eingaben_anzeigen.h"
 #include "ui/ChartWidget.h"
+#include "ui/Drucken.h"
 #include "ui/Uebersetzen.h"
 
 #include <QApplication>
@@ -188,6 +189,10 @@ void Desktopprogramm::fenster_bauen() {
     };
     haupt->hilfe = [this] { hilfe_zeigen(); };
     haupt->info = [this] { start->exec(); };
+    haupt->drucken = [this] {
+        Drucken dialog(p, *ebenen, einstellung_.dezimal, haupt.get());
+        dialog.exec();
+    };
     haupt->ebene_gezeigt = [this] {
         // The planes' own flags tell the driver's observers what is on the screen.
         const int e = haupt->eingabe_gezeigt();

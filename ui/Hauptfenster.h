@@ -40,6 +40,8 @@ public:
 
     // The menu's actions; each is set by the program.
     std::function<void()> neu, oeffnen, speichern, speichern_unter, beenden, hilfe, info;
+    // The print dialog, modal.
+    std::function<void()> drucken;
     std::function<void(const char*)> sprache;
     // The close box: true lets the window close.
     std::function<bool()> schliessen_erlaubt;

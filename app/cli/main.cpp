@@ -18,7 +18,9 @@ void hilfe(std::ostream& aus) {
            "                                        write the new or the opened project\n"
            "  import SOURCE --name NAME ...          convert climate data into a station file\n"
            "  klima stationen | plz CODE | region X Y\n"
-           "                                        station lists, post code and map region\n";
+           "                                        station lists, post code and map region\n"
+           "  drucken PROJECT.vel OUT.pdf [--seiten 1,3,5] [--sprache d|e]\n"
+           "                                        the printed pages as a PDF file\n";
 }
 
 } // namespace
@@ -42,6 +44,9 @@ int main(int argc, char** argv) {
         }
         if (args[0] == "klima") {
             return befehl_klima(rest, std::cout, std::cerr);
+        }
+        if (args[0] == "drucken") {
+            return befehl_drucken(rest, std::cout, std::cerr);
         }
         std::cerr << "velmaris-cli: unknown command \"" << args[0] << "\"\n";
         hilfe(std::cerr);
