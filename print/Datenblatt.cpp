@@ -198,7 +198,7 @@ void Seite_Datenblatt2(Druckseite& s) {
         s.y += DRUCKZEILE;
     };
     reihe(
-        s.t("Fensterfläche in m^2", "Window area in m^2"),
+        s.t("Fensterfläche in m²", "Window area in m²"),
         [](const Werte& x) { return static_cast<double>(x.flaeche); }, 1);
     reihe(
         s.t("Anteil der Fassade in %", "Share of the facade in %"),
@@ -227,10 +227,10 @@ void Seite_Datenblatt2(Druckseite& s) {
     s.y = std::max(tiefste, s.y + DRUCKZEILE) + 0.8;
 
     reihe(
-        s.t("U-Wert Glas in W/(m^2 K)", "U value glazing in W/(m^2 K)"),
+        s.t("U-Wert Glas in W/(m² K)", "U value glazing in W/(m² K)"),
         [](const Werte& x) { return static_cast<double>(x.f.kfg); }, 2);
     reihe(
-        s.t("U-Wert Rahmen in W/(m^2 K)", "U value frame in W/(m^2 K)"),
+        s.t("U-Wert Rahmen in W/(m² K)", "U value frame in W/(m² K)"),
         [](const Werte& x) { return static_cast<double>(x.f.kfr); }, 2);
     reihe(
         s.t("g-Wert", "g value"), [](const Werte& x) { return static_cast<double>(x.f.gf); }, 2);

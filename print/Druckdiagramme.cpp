@@ -237,11 +237,11 @@ void Diagramm_Fenster(Drucker& d, const Projekt& p) {
 
 namespace {
 
-// The frame of the two energy diagrams: box, axes of three steps 20 mm high, month names.
-Druckachse energierahmen(Drucker& d, const Projekt& p, double M) {
+// The frame of the two energy diagrams: box, axes 20 mm high of n steps of `stufe`, month names.
+Druckachse energierahmen(Drucker& d, const Projekt& p, int n, double stufe) {
     diagrammschrift(d);
     d.Box(25, 209, 133, 241, BLACK);
-    const Druckachse a{35, 235, 215, 131, 3, stufe_monatsverbrauch(M)};
+    const Druckachse a{35, 235, 215, 131, n, stufe};
     druck_achsen(d, a, monatseinheit(p), 28);
     druck_monatsnamen(d, p.Sprache, a.x, a.unten + 1);
     return a;
@@ -256,7 +256,8 @@ void Diagramm_Heizenergie(Drucker& d, const Projekt& p) {
         M = std::max(
             {M, static_cast<double>(w.E[m]) + w.H[m], static_cast<double>(w.P[m]) + w.Q[m]});
     }
-    const Druckachse a = energierahmen(d, p, M);
+    // Three steps of the energy plane's own table, as on the screen.
+    const Druckachse a = energierahmen(d, p, 3, stufe_monatsverbrauch(M));
     for (int m = 1; m <= MONATE; ++m) {
         const double x = monat_x(a.x, m);
         const double E = w.E[m], H = w.H[m], P = w.P[m], Q = w.Q[m];
@@ -281,7 +282,9 @@ void Diagramm_Kuehlenergie(Drucker& d, const Projekt& p) {
     for (int m = 1; m <= MONATE; ++m) {
         M = std::max(M, p.Monat[m].Kuehlbedarf / teiler * PRIMAERFAKTOR_STROM);
     }
-    const Druckachse a = energierahmen(d, p, M);
+    // The month values of cooling are small: they take the steps of the month balance, whose
+    // tops are five steps.
+    const Druckachse a = energierahmen(d, p, 5, stufe_monatsbilanz(M));
     for (int m = 1; m <= MONATE; ++m) {
         const double x = monat_x(a.x, m);
         const double end = p.Monat[m].Kuehlbedarf / teiler;

@@ -66,7 +66,8 @@ void Diagramm_Fenster(Drucker& d, const Projekt& p);
 // End and primary energy of the heating by month, each with its auxiliary electricity on top,
 // kWh/(m² month), with the legend.
 void Diagramm_Heizenergie(Drucker& d, const Projekt& p);
-// End energy (electricity) and primary energy of the cooling by month, kWh/(m² month).
+// End energy (electricity) and primary energy of the cooling by month, kWh/(m² month), on
+// the scale steps of the month balance (n = 5).
 void Diagramm_Kuehlenergie(Drucker& d, const Projekt& p);
 
 // The plan of the building turned by orient around (ScaleWidth / 2 + 15, 75): outline, ridge and

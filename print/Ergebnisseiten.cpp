@@ -70,7 +70,7 @@ void Seite_Waermebilanz(Druckseite& s) {
     regel(s, s.y);
     s.d.FontSize = 10;
     drucken_bei(s.d, 26, s.y + 1,
-                s.t("(spezifisch: in kWh/m^2 Nutzfläche)", "(specific: in kWh/m^2 useful area)"));
+                s.t("(spezifisch: in kWh/m² Nutzfläche)", "(specific: in kWh/m² useful area)"));
 
     Diagramm_Monatbilanz(s.d, p);
     Diagramm_Jahresbilanz(s.d, p);
@@ -113,7 +113,9 @@ void Seite_Kuehlbilanz(Druckseite& s) {
 void Seite_Fensterbilanz(Druckseite& s) {
     const Projekt& p = s.p;
     abschnitt(s, s.t("Orientierung:", "Orientation:"));
-    wertzeile(s, s.t("Südabweichung:", "Deviation from south:"), s.wert(p.orient, "0") + " °");
+    // The value stays left of the plan, which stands from x 100 on.
+    drucken_bei(s.d, 30, s.y, s.t("Südabweichung:", "Deviation from south:"));
+    drucken_bei(s.d, 70, s.y, s.wert(p.orient, "0") + " °");
     Diagramm_Orientierung(s.d, p);
     s.d.FontSize = 10;
 

@@ -38,7 +38,7 @@ constexpr double DRUCKZEILE_KLEIN = 3.4;
 
 // Section title: size 12 bold at x 25, then size 10 plain.
 void abschnitt(Druckseite& s, const std::string& titel);
-// Label at x `x` and value text at x 120 on one row, size 10.
+// Label at x `x` and value text at x 120 on one row, size 10; a heading row has no value.
 void wertzeile(Druckseite& s, const std::string& label, const std::string& wert, double x = 30);
 // Label at x `x` and a long text wrapped by ZeilenUmbruch to 55 mm from x 120, a row per line.
 void textzeilen(Druckseite& s, const std::string& label, std::string text, double x = 30);

@@ -11,6 +11,10 @@ std::string Druckseite::wert(double v, const char* muster) const {
 }
 
 void abschnitt(Druckseite& s, const std::string& titel) {
+    // A section below others keeps a little space from the rows above it.
+    if (s.y > 50) {
+        s.y += 2;
+    }
     s.d.FontSize = 12;
     s.d.FontBold = true;
     drucken_bei(s.d, 25, s.y, titel);
@@ -21,7 +25,9 @@ void abschnitt(Druckseite& s, const std::string& titel) {
 
 void wertzeile(Druckseite& s, const std::string& label, const std::string& wert, double x) {
     drucken_bei(s.d, x, s.y, label);
-    drucken_bei(s.d, 120, s.y, wert);
+    if (!wert.empty()) {
+        drucken_bei(s.d, 120, s.y, wert);
+    }
     s.y += DRUCKZEILE;
 }
 
