@@ -61,9 +61,11 @@ void geometrie(Druckseite& s) {
     if (p.Dachgeschoss) {
         wertzeile(s, s.t("Dachhöhe:", "Height of roof:"), s.wert(p.hd, "0.0") + " m");
         if (p.Dachfirst == 1 || p.Dachfirst == 2) {
-            wertzeile(s, s.t("Dachfirst:", "Roof ridge:"),
-                      p.Dachfirst == 1 ? s.t("in Nord-Süd-Richtung", "in north-south-direction")
-                                       : s.t("in Ost-West-Richtung", "in east-west-direction"));
+            // The sketch stands from x 143.8 beside these rows: the direction is wrapped short.
+            textzeilen(s, s.t("Dachfirst:", "Roof ridge:"),
+                       p.Dachfirst == 1 ? s.t("in Nord-Süd-Richtung", "in north-south-direction")
+                                        : s.t("in Ost-West-Richtung", "in east-west-direction"),
+                       30, 22);
         }
     }
     wertzeile(s,

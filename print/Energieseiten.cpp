@@ -62,8 +62,15 @@ void Seite_Heizenergie(Druckseite& s) {
     s.y += 0.5;
     const double he = p.q_HE_Energietraeger, hs = p.q_HE_Strom;
     const double pe = p.q_PE_Energietraeger, ps = p.q_PE_Strom;
-    tabellenzeile(s, s.t("Jahressumme", "Yearly sum"), anker, {he, hs, he + hs, pe, ps, pe + ps},
-                  stellen, DRUCKZEILE_KLEIN);
+    // With electricity as the carrier the months hold its auxiliary part too; the year does
+    // the same, so that the columns add up.
+    if (p.Energie.Traegername == "Strom") {
+        tabellenzeile(s, s.t("Jahressumme", "Yearly sum"), anker,
+                      {he + hs, 0, he + hs, pe + ps, 0, pe + ps}, stellen, DRUCKZEILE_KLEIN);
+    } else {
+        tabellenzeile(s, s.t("Jahressumme", "Yearly sum"), anker,
+                      {he, hs, he + hs, pe, ps, pe + ps}, stellen, DRUCKZEILE_KLEIN);
+    }
     regel(s, s.y);
     s.d.FontSize = 10;
     Diagramm_Heizenergie(s.d, p);

@@ -38,10 +38,13 @@ constexpr double DRUCKZEILE_KLEIN = 3.4;
 
 // Section title: size 12 bold at x 25, then size 10 plain.
 void abschnitt(Druckseite& s, const std::string& titel);
-// Label at x `x` and value text at x 120 on one row, size 10; a heading row has no value.
+// Label at x `x` and value text at x 120 on one row, size 10; a heading row has no value, a
+// continued value no label.
 void wertzeile(Druckseite& s, const std::string& label, const std::string& wert, double x = 30);
-// Label at x `x` and a long text wrapped by ZeilenUmbruch to 55 mm from x 120, a row per line.
-void textzeilen(Druckseite& s, const std::string& label, std::string text, double x = 30);
+// Label at x `x` and a long text wrapped by ZeilenUmbruch to `breite` mm from x 120, a row per
+// line.
+void textzeilen(Druckseite& s, const std::string& label, std::string text, double x = 30,
+                double breite = 55);
 // A rule from x 25 to x 175 at y; with `doppelt` a second one a millimetre lower.
 void regel(Druckseite& s, double y, bool doppelt = false);
 // The head of a table: a rule at the current row, the head rows right-aligned on the column

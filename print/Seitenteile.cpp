@@ -24,16 +24,19 @@ void abschnitt(Druckseite& s, const std::string& titel) {
 }
 
 void wertzeile(Druckseite& s, const std::string& label, const std::string& wert, double x) {
-    drucken_bei(s.d, x, s.y, label);
+    if (!label.empty()) {
+        drucken_bei(s.d, x, s.y, label);
+    }
     if (!wert.empty()) {
         drucken_bei(s.d, 120, s.y, wert);
     }
     s.y += DRUCKZEILE;
 }
 
-void textzeilen(Druckseite& s, const std::string& label, std::string text, double x) {
+void textzeilen(Druckseite& s, const std::string& label, std::string text, double x,
+                double breite) {
     drucken_bei(s.d, x, s.y, label);
-    ZeilenUmbruch(s.d, text, 55, s.ZeilenListe);
+    ZeilenUmbruch(s.d, text, breite, s.ZeilenListe);
     for (const std::string& zeile : s.ZeilenListe) {
         drucken_bei(s.d, 120, s.y, zeile);
         s.y += DRUCKZEILE;

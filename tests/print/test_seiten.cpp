@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <map>
 
 namespace {
 
@@ -236,4 +238,65 @@ TEST(Datenblatt, TheWindowTableHasAColumnPerFacadeAndTheHeatSupplyIsWrapped) {
     }
     EXPECT_GT(zeilen, 1);
     EXPECT_EQ(text, dp.e->energie.Label_System.Caption);
+}
+
+TEST(Datenblatt, ARegionStationShowsTheRegionsTwoLinesInBothLanguages) {
+    TempOrdner ordner;
+    for (const char* sprache : {"d", "e"}) {
+        Druckprojekt dp(ordner, sprache);
+        Projekt& p = *dp.p;
+        p.Klimaauswahl = 1;
+        p.Klimadatei = p.Regionsdatei[4];
+        RecordingPrinter d;
+        Druckseite s{d, p, *dp.e, ',', {}};
+        Seite_Datenblatt1(s);
+        const std::vector<std::string> t = d.texte();
+        auto i = std::find(t.begin(), t.end(),
+                           sprache == std::string("d") ? "Klimaregion:" : "Climatic region:");
+        ASSERT_NE(i, t.end());
+        EXPECT_EQ(*++i, "Klimaregion 4 : Nördliche und westliche");
+        EXPECT_EQ(*++i, "Mittelgebirge ohne Hochlagen");
+        // Another scope names the station instead.
+        p.Klimaauswahl = 2;
+        RecordingPrinter europa;
+        Druckseite s2{europa, p, *dp.e, ',', {}};
+        Seite_Datenblatt1(s2);
+        EXPECT_TRUE(europa.prints("Klimaregion:").empty());
+        EXPECT_EQ(europa.prints(sprache == std::string("d") ? "Klimastation:" : "Climate station:")
+                      .size(),
+                  1u);
+    }
+}
+
+TEST(Heizenergie, TheYearRowAddsUpTheMonthsAlsoWithElectricityAsTheCarrier) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "d");
+    Projekt& p = *dp.p;
+    for (const char* traeger : {"Heizöl", "Strom"}) {
+        p.Energie.Traegername = traeger;
+        RecordingPrinter d;
+        Druckseite s{d, p, *dp.e, ',', {}};
+        Seite_Heizenergie(s);
+        // The row "Jahressumme" against the twelve month rows above it, column by column.
+        std::vector<RecordingPrinter::Eintrag> zeilen;
+        for (const auto& e : d.von_art(Art::Print)) {
+            zeilen.push_back(e);
+        }
+        const auto jahr = d.prints("Jahressumme").at(0);
+        const auto januar = d.prints("Januar").at(0);
+        std::map<double, double> summe, wert;
+        for (const auto& e : zeilen) {
+            if (e.x1 <= 30 || e.y1 < januar.y1 || e.y1 > jahr.y1) {
+                continue;
+            }
+            std::string zahl = e.text;
+            std::replace(zahl.begin(), zahl.end(), ',', '.');
+            const double rechts = std::round((e.x1 + 0.2 * e.size * e.text.size()) * 10) / 10;
+            (e.y1 == jahr.y1 ? wert : summe)[rechts] += std::stod(zahl);
+        }
+        ASSERT_EQ(wert.size(), 6u) << traeger;
+        for (const auto& [spalte, jahreswert] : wert) {
+            EXPECT_NEAR(summe[spalte], jahreswert, 0.35) << traeger << " column " << spalte;
+        }
+    }
 }
