@@ -29,8 +29,7 @@ TEST(Druckargumente, FilesLanguageAndTheOptionNumbersOfTheDialog) {
 
     Druckargumente b;
     ASSERT_TRUE(druckargumente_lesen(
-        {"--seiten", "7,1,3", "haus.vel", "--sprache", "e", "aus.pdf", "--klima", "k"}, b,
-        fehler));
+        {"--seiten", "7,1,3", "haus.vel", "--sprache", "e", "aus.pdf", "--klima", "k"}, b, fehler));
     EXPECT_EQ(b.auswahl, nur({1, 3, 7}));
     EXPECT_EQ(b.sprache, "e");
     EXPECT_EQ(b.klima, "k");
