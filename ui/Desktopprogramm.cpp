@@ -9,6 +9,7 @@
 #include "project/c_glob.h"
 #include "project/eingaben_anzeigen.h"
 #include "ui/ChartWidget.h"
+#include "ui/Drucken.h"
 #include "ui/ReportFenster.h"
 #include "ui/Uebersetzen.h"
 
@@ -200,6 +201,10 @@ void Desktopprogramm::fenster_bauen() {
     haupt->report_anzeigen = [report_fenster] { report_fenster(ReportFenster::Modus::Report); };
     haupt->temperaturen_anzeigen = [report_fenster] {
         report_fenster(ReportFenster::Modus::Temperaturverlauf);
+    };
+    haupt->drucken = [this] {
+        Drucken dialog(p, *ebenen, einstellung_.dezimal, haupt.get());
+        dialog.exec();
     };
     haupt->ebene_gezeigt = [this] {
         // The planes' own flags tell the driver's observers what is on the screen.

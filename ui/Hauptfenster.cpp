@@ -114,8 +114,7 @@ void Hauptfenster::menue_bauen() {
     eintrag(datei, "mnuFileSpeichern", "&Speichern", &speichern);
     eintrag(datei, "mnuFileunter", "Speichern &unter...", &speichern_unter);
     datei->addSeparator()->setObjectName(QStringLiteral("mnuFileSep"));
-    // Printing comes with the print pages.
-    eintrag(datei, "mnuFileDrucken", "&Drucken...", nullptr)->setEnabled(false);
+    eintrag(datei, "mnuFileDrucken", "&Drucken...", &drucken);
     datei->addSeparator()->setObjectName(QStringLiteral("mnuFileSep2"));
     eintrag(datei, "mnuFileExit", "&Beenden", &beenden);
 

@@ -42,6 +42,8 @@ public:
     std::function<void()> neu, oeffnen, speichern, speichern_unter, beenden, hilfe, info;
     // The report window with the report, or with the temperature course.
     std::function<void()> report_anzeigen, temperaturen_anzeigen;
+    // The print dialog, modal.
+    std::function<void()> drucken;
     std::function<void(const char*)> sprache;
     // The close box: true lets the window close.
     std::function<bool()> schliessen_erlaubt;

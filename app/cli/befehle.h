@@ -41,3 +41,9 @@ int befehl_report(const std::vector<std::string>& args, std::ostream& aus, std::
 // year's hourly temperatures written as the window's export writes them. Status 2 as for report.
 int befehl_temperaturen(const std::vector<std::string>& args, std::ostream& aus,
                         std::ostream& fehler);
+
+// drucken PROJECT.vel OUT.pdf [--seiten 1,3,5] [--sprache d|e] [--klima DIR]: the printed pages
+// of the project (the options of the print dialog, all without --seiten) as a PDF file. Status 2
+// for a project that cannot be read or a file that cannot be written. Without the desktop build
+// it only says that it needs it (status 1).
+int befehl_drucken(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler);

@@ -22,7 +22,9 @@ void hilfe(std::ostream& aus) {
            "  report PROJECT.vel OUT.rtf [--sprache d|e] [--seite 0..7]\n"
            "                                        the report as Rich Text\n"
            "  temperaturen PROJECT.vel OUT.txt [--sprache d|e]\n"
-           "                                        the year's hourly temperatures\n";
+           "                                        the year's hourly temperatures\n"
+           "  drucken PROJECT.vel OUT.pdf [--seiten 1,3,5] [--sprache d|e]\n"
+           "                                        the printed pages as a PDF file\n";
 }
 
 } // namespace
@@ -52,6 +54,9 @@ int main(int argc, char** argv) {
         }
         if (args[0] == "temperaturen") {
             return befehl_temperaturen(rest, std::cout, std::cerr);
+        }
+        if (args[0] == "drucken") {
+            return befehl_drucken(rest, std::cout, std::cerr);
         }
         std::cerr << "velmaris-cli: unknown command \"" << args[0] << "\"\n";
         hilfe(std::cerr);

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// velmaris-cli drucken: the printed pages of a project file as a PDF, and its exit statuses.
+#include "tests/support/Befehlszeile.h"
+#include "tests/support/Testprojekt.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+// The pages of a PDF file: its page objects "/Type /Page" (not the tree "/Type /Pages").
+int pdf_seiten(const std::filesystem::path& pfad) {
+    std::ifstream ein(pfad, std::ios::binary);
+    std::stringstream s;
+    s << ein.rdbuf();
+    const std::string inhalt = s.str();
+    if (inhalt.rfind("%PDF-", 0) != 0) {
+        return -1;
+    }
+    int n = 0;
+    const std::string marke = "/Type /Page";
+    for (std::size_t i = inhalt.find(marke); i != std::string::npos;
+         i = inhalt.find(marke, i + 1)) {
+        n += inhalt.compare(i, marke.size() + 1, marke + "s") != 0 ? 1 : 0;
+    }
+    return n;
+}
+
+// A project file of the new project on the synthetic station of its own klima folder.
+struct Druckordner {
+    TempOrdner ordner;
+    std::string klima;
+    std::string projekt;
+    Druckordner() {
+        std::filesystem::create_directory(ordner.pfad() / "klima");
+        klima = (ordner.pfad() / "klima").string();
+        TempOrdner station;
+        neues_testprojekt(station);
+        std::filesystem::copy_file(station.pfad() / "trier.met", ordner.pfad() / "klima/trier.met");
+        projekt = (ordner.pfad() / "haus.vel").string();
+        const Befehlslauf l = befehl_ausfuehren(std::string(VELMARIS_CLI) + " save '" + projekt +
+                                                "' --klima '" + klima + "'");
+        EXPECT_EQ(l.status, 0);
+    }
+    Befehlslauf drucken(const std::string& weiter) const {
+        return befehl_ausfuehren(std::string(VELMARIS_CLI) + " drucken '" + projekt + "' " +
+                                 weiter + " --klima '" + klima + "' 2>&1");
+    }
+};
+
+} // namespace
+
+TEST(CliDrucken, AllOptionsWriteEightPagesAndASelectionItsOwn) {
+    Druckordner o;
+    const auto alle = o.ordner.pfad() / "alle.pdf";
+    Befehlslauf l = o.drucken("'" + alle.string() + "'");
+    EXPECT_EQ(l.status, 0) << l.aus;
+    EXPECT_EQ(pdf_seiten(alle), 8);
+
+    const auto blatt = o.ordner.pfad() / "blatt.pdf";
+    l = o.drucken("'" + blatt.string() + "' --seiten 1");
+    EXPECT_EQ(l.status, 0) << l.aus;
+    EXPECT_EQ(pdf_seiten(blatt), 2);
+
+    const auto zwei = o.ordner.pfad() / "zwei.pdf";
+    l = o.drucken("'" + zwei.string() + "' --seiten 5,3 --sprache e");
+    EXPECT_EQ(l.status, 0) << l.aus;
+    EXPECT_EQ(pdf_seiten(zwei), 2);
+}
+
+TEST(CliDrucken, WrongArgumentsUnreadableProjectsAndUnwritableTargets) {
+    Druckordner o;
+    const std::string ziel = "'" + (o.ordner.pfad() / "x.pdf").string() + "'";
+    for (const char* falsch : {"--seiten 8", "--seiten 0", "--seiten 1,1", "--seiten 1,",
+                               "--seiten ''", "--sprache f", "--farbe"}) {
+        const Befehlslauf l = o.drucken(ziel + " " + falsch);
+        EXPECT_EQ(l.status, 1) << falsch << ": " << l.aus;
+    }
+    EXPECT_EQ(o.drucken("").status, 1);
+    EXPECT_FALSE(std::filesystem::exists(o.ordner.pfad() / "x.pdf"));
+
+    Befehlslauf l = befehl_ausfuehren(std::string(VELMARIS_CLI) + " drucken '" +
+                                      (o.ordner.pfad() / "fehlt.vel").string() + "' " + ziel +
+                                      " --klima '" + o.klima + "' 2>&1");
+    EXPECT_EQ(l.status, 2) << l.aus;
+    EXPECT_NE(l.aus.find("cannot read the project"), std::string::npos) << l.aus;
+
+    l = o.drucken("'" + (o.ordner.pfad() / "kein/ordner/x.pdf").string() + "'");
+    EXPECT_EQ(l.status, 2) << l.aus;
+    EXPECT_NE(l.aus.find("cannot write"), std::string::npos) << l.aus;
+}

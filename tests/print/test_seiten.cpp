@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The frame of a page, the page count and the order of the printed pages.
+#include "print/Ausdrucken.h"
+#include "print/RecordingPrinter.h"
+#include "print/Seiten.h"
+#include "tests/print/Druckhilfe.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace {
+
+using Art = RecordingPrinter::Eintrag::Art;
+
+const Druckauswahl ALLE{true, true, true, true, true, true, true};
+
+Druckauswahl nur(std::initializer_list<int> optionen) {
+    Druckauswahl a{};
+    for (int o : optionen) {
+        a[static_cast<std::size_t>(o - 1)] = true;
+    }
+    return a;
+}
+
+bool gedruckt(const RecordingPrinter& d, const std::string& text, int seite) {
+    for (const auto& e : d.prints(text)) {
+        if (e.seite == seite) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+TEST(Seitenzahl, TheDataSheetCountsTwoPagesAndAllTogetherEight) {
+    EXPECT_EQ(seitenzahl(ALLE), 8);
+    EXPECT_EQ(seitenzahl(nur({1})), 2);
+    EXPECT_EQ(seitenzahl(nur({2})), 1);
+    EXPECT_EQ(seitenzahl(nur({1, 7})), 3);
+    EXPECT_EQ(seitenzahl(nur({})), 0);
+}
+
+TEST(Seitenkopf, LogoRulesFootAndTitleStandAtTheirPlaces) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "d");
+    dp.p->Datei = "/home/lehrer/projekte/haus.vel";
+    RecordingPrinter d;
+    Seitenkopf(d, *dp.p, "Ausgabe: Wärmebilanz", 3, 8, "5.3.2026");
+
+    // "VELM" italic and "aris" upright, 8 characters at size 20 (4 mm each) centred on 200 mm.
+    const auto velm = d.prints("VELM").at(0);
+    const auto aris = d.prints("aris").at(0);
+    EXPECT_DOUBLE_EQ(velm.x1, 84);
+    EXPECT_DOUBLE_EQ(velm.y1, 20);
+    EXPECT_DOUBLE_EQ(aris.x1, 100);
+    EXPECT_DOUBLE_EQ(aris.y1, 20);
+    EXPECT_TRUE(velm.italic && velm.bold && velm.underline);
+    EXPECT_TRUE(!aris.italic && aris.bold && aris.underline);
+    EXPECT_DOUBLE_EQ(velm.size, 20);
+
+    const auto linien = d.von_art(Art::Line);
+    ASSERT_EQ(linien.size(), 2u);
+    EXPECT_EQ((std::array<double, 4>{linien[0].x1, linien[0].y1, linien[0].x2, linien[0].y2}),
+              (std::array<double, 4>{25, 35, 175, 35}));
+    EXPECT_EQ((std::array<double, 4>{linien[1].x1, linien[1].y1, linien[1].x2, linien[1].y2}),
+              (std::array<double, 4>{25, 260, 175, 260}));
+
+    // The foot in italic at y 261: the file without its folder, the page in the middle, the
+    // date ending at x 175.
+    const auto datei = d.prints("Datei: haus.vel ").at(0);
+    EXPECT_DOUBLE_EQ(datei.x1, 25);
+    const auto seite = d.prints("- Seite 3 / 8 -").at(0);
+    EXPECT_DOUBLE_EQ(seite.x1, (200 - 15 * 2) / 2.0);
+    const auto datum = d.prints("5.3.2026").at(0);
+    EXPECT_DOUBLE_EQ(datum.x1, 175 - 8 * 2);
+    for (const auto& e : {datei, seite, datum}) {
+        EXPECT_DOUBLE_EQ(e.y1, 261);
+        EXPECT_TRUE(e.italic);
+        EXPECT_FALSE(e.bold || e.underline);
+        EXPECT_DOUBLE_EQ(e.size, 10);
+    }
+
+    // The title at size 16 (3.2 mm a character), upright, centred at y 40.
+    const auto titel = d.prints("Ausgabe: Wärmebilanz").at(0);
+    EXPECT_DOUBLE_EQ(titel.y1, 40);
+    EXPECT_DOUBLE_EQ(titel.x1, (200 - 20 * 3.2) / 2);
+    EXPECT_DOUBLE_EQ(titel.size, 16);
+    EXPECT_FALSE(titel.italic);
+}
+
+TEST(Seitenkopf, EnglishFootNamesFileAndPage) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "e");
+    dp.p->Datei = "C:\\Daten\\haus.vel";
+    RecordingPrinter d;
+    Seitenkopf(d, *dp.p, "Output: Heat balance", 1, 2, "22.11.2026");
+    EXPECT_EQ(d.prints("File: haus.vel ").size(), 1u);
+    EXPECT_EQ(d.prints("- Page 1 / 2 -").size(), 1u);
+}
+
+TEST(Ausdrucken, AllOptionsGiveEightNumberedPagesInTheirOrder) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "d");
+    RecordingPrinter d;
+    Ausdrucken(d, *dp.p, *dp.e, ALLE, ',', "1.1.2026");
+
+    EXPECT_EQ(d.von_art(Art::NewPage).size(), 7u);
+    ASSERT_EQ(d.von_art(Art::EndDoc).size(), 1u);
+    EXPECT_EQ(d.log().back().art, Art::EndDoc);
+    const char* titel[] = {"Datenblatt (Teil 1):",
+                           "Datenblatt (Teil 2):",
+                           "Ausgabe: Heiz- und Kühlstunden",
+                           "Ausgabe: Wärmebilanz",
+                           "Ausgabe: Kühlbilanz",
+                           "Ausgabe: Fensterbilanz",
+                           "Primär- und Endenergiebedarf Heizung",
+                           "Primär- und Endenergiebedarf Kühlung"};
+    for (int n = 1; n <= 8; ++n) {
+        EXPECT_TRUE(gedruckt(d, "- Seite " + std::to_string(n) + " / 8 -", n)) << n;
+        EXPECT_TRUE(gedruckt(d, titel[n - 1], n)) << n;
+        EXPECT_TRUE(gedruckt(d, "VELM", n)) << n;
+    }
+    // Every text stays on the sheet, between the margins of the 200 mm and above the foot.
+    for (const auto& e : d.von_art(Art::Print)) {
+        EXPECT_LE(e.y1, 261) << e.text;
+        EXPECT_GE(e.x1, 0) << e.text;
+        EXPECT_LE(e.x1, 200) << e.text;
+    }
+}
+
+TEST(Ausdrucken, TheDataSheetAloneIsTwoPagesOfTwo) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "e");
+    RecordingPrinter d;
+    Ausdrucken(d, *dp.p, *dp.e, nur({1}), '.', "1.1.2026");
+    EXPECT_EQ(d.von_art(Art::NewPage).size(), 1u);
+    EXPECT_TRUE(gedruckt(d, "Data sheet (1):", 1));
+    EXPECT_TRUE(gedruckt(d, "Data sheet (2):", 2));
+    EXPECT_TRUE(gedruckt(d, "- Page 1 / 2 -", 1));
+    EXPECT_TRUE(gedruckt(d, "- Page 2 / 2 -", 2));
+}
+
+TEST(Ausdrucken, LaterOptionsAloneAreNumberedFromOne) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "d");
+    RecordingPrinter d;
+    Ausdrucken(d, *dp.p, *dp.e, nur({5, 3}), ',', "1.1.2026");
+    EXPECT_TRUE(gedruckt(d, "Ausgabe: Wärmebilanz", 1));
+    EXPECT_TRUE(gedruckt(d, "- Seite 1 / 2 -", 1));
+    EXPECT_TRUE(gedruckt(d, "Ausgabe: Fensterbilanz", 2));
+    EXPECT_TRUE(gedruckt(d, "- Seite 2 / 2 -", 2));
+
+    // Nothing ticked: no page, but the document is ended.
+    RecordingPrinter leer;
+    Ausdrucken(leer, *dp.p, *dp.e, nur({}), ',', "1.1.2026");
+    ASSERT_EQ(leer.log().size(), 1u);
+    EXPECT_EQ(leer.log()[0].art, Art::EndDoc);
+}
+
+TEST(Datenblatt, ValuesStandAtX120WithTheDecimalMarkAndTheListTexts) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "d");
+    Projekt& p = *dp.p;
+    RecordingPrinter d;
+    Druckseite s{d, p, *dp.e, ',', {}};
+    Seite_Datenblatt1(s);
+
+    const auto laenge = d.prints("Länge der Nord- und Südfassade:").at(0);
+    EXPECT_DOUBLE_EQ(laenge.x1, 30);
+    const auto wert = d.prints("10,0 m").at(0);
+    EXPECT_DOUBLE_EQ(wert.x1, 120);
+    EXPECT_DOUBLE_EQ(wert.y1, laenge.y1);
+    const auto geometrie = d.prints("Geometrie:").at(0);
+    EXPECT_DOUBLE_EQ(geometrie.x1, 25);
+    EXPECT_DOUBLE_EQ(geometrie.size, 12);
+    EXPECT_TRUE(geometrie.bold);
+    // The lower floor's kind is the text of the insulation plane's list, wrapped at x 120.
+    const std::vector<std::string> texte = d.texte();
+    auto i = std::find(texte.begin(), texte.end(), "Untere Geschoßdecke:");
+    ASSERT_NE(i, texte.end());
+    ASSERT_EQ(*++i, "gegen:");
+    std::string art;
+    while (++i != texte.end() && *i != "U-Wert:") {
+        art += *i;
+    }
+    EXPECT_EQ(art, dp.e->daemmung.ugd.Eintraege.at(static_cast<std::size_t>(p.ugd_typ)));
+    // Without a heated attic there is no roof height.
+    EXPECT_TRUE(d.prints("Dachhöhe:").empty());
+    p.Dachgeschoss = true;
+    RecordingPrinter mit_dach;
+    Druckseite s2{mit_dach, p, *dp.e, ',', {}};
+    Seite_Datenblatt1(s2);
+    EXPECT_EQ(mit_dach.prints("Dachhöhe:").size(), 1u);
+    EXPECT_EQ(mit_dach.prints("Dach:").size(), 1u);
+    EXPECT_EQ(mit_dach.prints("Außenluft").size(), 1u);
+}
+
+TEST(Datenblatt, TheWindowTableHasAColumnPerFacadeAndTheHeatSupplyIsWrapped) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "d");
+    Projekt& p = *dp.p;
+    p.fs = 40;
+    p.fn = 10;
+    RecordingPrinter d;
+    Druckseite s{d, p, *dp.e, ',', {}};
+    Seite_Datenblatt2(s);
+    // North, south, east, west, each ending on its anchor.
+    const auto reihe = d.prints("Anteil der Fassade in %").at(0);
+    std::vector<std::pair<std::string, double>> zellen;
+    RecordingPrinter mass;
+    for (const auto& e : d.von_art(Art::Print)) {
+        if (e.y1 == reihe.y1 && e.x1 > 30) {
+            mass.FontSize = e.size;
+            zellen.emplace_back(e.text, e.x1 + mass.TextWidth(e.text));
+        }
+    }
+    using Zelle = std::pair<std::string, double>;
+    EXPECT_EQ(
+        zellen,
+        (std::vector<Zelle>{
+            {"10", 100}, {"40", 125}, {std::to_string(p.fo), 150}, {std::to_string(p.fw), 175}}));
+    // The heating system's text is broken into lines narrower than 55 mm at x 120.
+    const auto system = d.prints("Heizungssystem:").at(0);
+    const auto uebergabe = d.prints("Wärmeübergabe / Systemtemperatur:").at(0);
+    std::string text;
+    int zeilen = 0;
+    for (const auto& e : d.von_art(Art::Print)) {
+        if (e.x1 == 120 && e.y1 >= system.y1 && e.y1 < uebergabe.y1) {
+            mass.FontSize = e.size;
+            EXPECT_LT(mass.TextWidth(e.text), 55) << e.text;
+            text += e.text;
+            ++zeilen;
+        }
+    }
+    EXPECT_GT(zeilen, 1);
+    EXPECT_EQ(text, dp.e->energie.Label_System.Caption);
+}
+
+TEST(Datenblatt, ARegionStationShowsTheRegionsTwoLinesInBothLanguages) {
+    TempOrdner ordner;
+    for (const char* sprache : {"d", "e"}) {
+        Druckprojekt dp(ordner, sprache);
+        Projekt& p = *dp.p;
+        p.Klimaauswahl = 1;
+        p.Klimadatei = p.Regionsdatei[4];
+        RecordingPrinter d;
+        Druckseite s{d, p, *dp.e, ',', {}};
+        Seite_Datenblatt1(s);
+        const std::vector<std::string> t = d.texte();
+        auto i = std::find(t.begin(), t.end(),
+                           sprache == std::string("d") ? "Klimaregion:" : "Climatic region:");
+        ASSERT_NE(i, t.end());
+        EXPECT_EQ(*++i, "Klimaregion 4 : Nördliche und westliche");
+        EXPECT_EQ(*++i, "Mittelgebirge ohne Hochlagen");
+        // Another scope names the station instead.
+        p.Klimaauswahl = 2;
+        RecordingPrinter europa;
+        Druckseite s2{europa, p, *dp.e, ',', {}};
+        Seite_Datenblatt1(s2);
+        EXPECT_TRUE(europa.prints("Klimaregion:").empty());
+        EXPECT_EQ(europa.prints(sprache == std::string("d") ? "Klimastation:" : "Climate station:")
+                      .size(),
+                  1u);
+    }
+}
+
+TEST(Heizenergie, TheYearRowAddsUpTheMonthsAlsoWithElectricityAsTheCarrier) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "d");
+    Projekt& p = *dp.p;
+    for (const char* traeger : {"Heizöl", "Strom"}) {
+        p.Energie.Traegername = traeger;
+        RecordingPrinter d;
+        Druckseite s{d, p, *dp.e, ',', {}};
+        Seite_Heizenergie(s);
+        // The row "Jahressumme" against the twelve month rows above it, column by column.
+        std::vector<RecordingPrinter::Eintrag> zeilen;
+        for (const auto& e : d.von_art(Art::Print)) {
+            zeilen.push_back(e);
+        }
+        const auto jahr = d.prints("Jahressumme").at(0);
+        const auto januar = d.prints("Januar").at(0);
+        std::map<double, double> summe, wert;
+        for (const auto& e : zeilen) {
+            if (e.x1 <= 30 || e.y1 < januar.y1 || e.y1 > jahr.y1) {
+                continue;
+            }
+            std::string zahl = e.text;
+            std::replace(zahl.begin(), zahl.end(), ',', '.');
+            const double rechts = std::round((e.x1 + 0.2 * e.size * e.text.size()) * 10) / 10;
+            (e.y1 == jahr.y1 ? wert : summe)[rechts] += std::stod(zahl);
+        }
+        ASSERT_EQ(wert.size(), 6u) << traeger;
+        for (const auto& [spalte, jahreswert] : wert) {
+            EXPECT_NEAR(summe[spalte], jahreswert, 0.35) << traeger << " column " << spalte;
+        }
+    }
+}
