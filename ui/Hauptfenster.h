@@ -41,6 +41,8 @@ public:
     // The menu's actions; each is set by the program.
     std::function<void()> neu, oeffnen, speichern, speichern_unter, beenden, hilfe, info;
     std::function<void(const char*)> sprache;
+    // Extras, the climate import window.
+    std::function<void()> klimaimport;
     // The close box: true lets the window close.
     std::function<bool()> schliessen_erlaubt;
     // After a plane came up.
