@@ -314,7 +314,9 @@ void KlimaimportFenster::felder_zeigen() {
     }
     Kopfzeilen->setEnabled(spalten);
     Dezimalzeichen->setEnabled(spalten);
+    // The lists start unused; the preview shows the choices where it can be filled.
     for (QComboBox* c : Datenreihe) {
+        c->setCurrentIndex(SPALTE_UNBENUTZT);
         c->setEnabled(spalten);
     }
 }

@@ -235,6 +235,9 @@ private slots:
 
         // Fewer than seven columns: the column scroll field is off.
         quelle(w, quellen.schreiben("drei.txt", spaltentext(1, 3, [](int) { return "a\tb\tc"; })));
+        // A new source starts with every list unused, before its head lines are known.
+        QCOMPARE(w.Datenreihe[2]->currentIndex(), int{SPALTE_UNBENUTZT});
+        QCOMPARE(w.f.Spaltenbelegung[3], int16_t{SPALTE_UNBENUTZT});
         QTest::keyClicks(w.Kopfzeilen, QStringLiteral("1"));
         QVERIFY(!w.HScroll1->isEnabled());
         QCOMPARE(w.HScroll1->maximum(), 1);
