@@ -503,12 +503,15 @@ private slots:
         };
         beantworten([](QWidget* m) {
             auto* box = qobject_cast<QInputDialog*>(m);
-            QCOMPARE(box->textValue(), QStringLiteral("vorschlag"));
+            QCOMPARE(box->textValue(), QStringLiteral("Bern"));
+            bild_speichern(*box, QStringLiteral("klimaimport_name"));
             box->setTextValue(QStringLiteral("neu"));
             box->accept();
         });
-        QCOMPARE(d.eingabe("Titel", "Frage", "vorschlag"), std::string("neu"));
-        QCOMPARE(titel, QStringLiteral("Titel"));
+        QCOMPARE(d.eingabe(text_speichern_titel("d"), text_speichern_frage("d", "Bern", "Schweiz"),
+                           "Bern"),
+                 std::string("neu"));
+        QCOMPARE(titel, QStringLiteral("Klimadatensatz speichern unter ..."));
         beantworten([](QWidget* m) { qobject_cast<QDialog*>(m)->reject(); });
         QCOMPARE(d.eingabe("Titel", "Frage", "vorschlag"), std::string());
 
@@ -520,7 +523,10 @@ private slots:
         QVERIFY(d.frage_ja_nein(text_ueberschreiben("d")));
 
         // The closing message has no title of its own and carries the program's name.
-        beantworten([](QWidget* m) { qobject_cast<QMessageBox*>(m)->accept(); });
+        beantworten([](QWidget* m) {
+            bild_speichern(*m, QStringLiteral("klimaimport_beendet"));
+            qobject_cast<QMessageBox*>(m)->accept();
+        });
         d.meldung("", text_beendet("d"));
         QCOMPARE(titel, QStringLiteral("Velmaris"));
         QString text;
