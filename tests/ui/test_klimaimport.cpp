@@ -29,8 +29,6 @@
 #include <QtTest>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -41,22 +39,6 @@ const fs::path TRY_QUELLE = fs::path(VELMARIS_SOURCE_DIR) / "tests" / "daten" /
 
 const std::string BEENDET = "Klimadatenimport beendet! Biite starten Sie Velmaris neu, um die "
                             "gerade importierten Daten verwenden zu können.";
-
-std::string lesen(const fs::path& pfad) {
-    std::ifstream datei(pfad, std::ios::binary);
-    std::ostringstream inhalt;
-    inhalt << datei.rdbuf();
-    return inhalt.str();
-}
-
-// A tab-separated source after two head lines: hour, Ta, total, direct, diffuse.
-std::string tabquelle(int zeilen) {
-    return spaltentext(2, zeilen, [](int i) {
-        return std::to_string(i) + "\t" + std::to_string(i % 30 - 10) + ".25\t" +
-               std::to_string(i % 7 * 100) + "\t" + std::to_string(i % 7 * 10) + "\t" +
-               std::to_string(i % 7 * 20) + ".5";
-    });
-}
 
 // A Meteonorm hourly text of a year: place, coordinates, a free line, the column names.
 std::string meteonorm() {
@@ -247,7 +229,7 @@ private slots:
 
     void eingabefilter_und_eingabentest() {
         KlimaimportFenster& w = oeffnen("d");
-        quelle(w, quellen.schreiben("kurz.txt", tabquelle(10)));
+        quelle(w, quellen.schreiben("kurz.txt", stundenquelle(10)));
         QVERIFY(!w.Command2->isEnabled());
 
         // Signs and letters never reach the number fields; the decimal mark does.
@@ -295,7 +277,7 @@ private slots:
 
     void zu_wenig_zeilen_werden_abgewiesen() {
         KlimaimportFenster& w = oeffnen("d");
-        const fs::path pfad = quellen.schreiben("jahr_minus_eins.txt", tabquelle(8759));
+        const fs::path pfad = quellen.schreiben("jahr_minus_eins.txt", stundenquelle(8759));
         quelle(w, pfad);
         QTest::keyClicks(w.Kopfzeilen, QStringLiteral("2"));
         // Without a radiation column the import names that first.
@@ -350,7 +332,7 @@ private slots:
         QCOMPARE(nutzer->meldungen.back().titel, std::string());
         QCOMPARE(nutzer->meldungen.back().text, BEENDET);
         QVERIFY(!w.isVisible());
-        const std::vector<std::string> z = crlf_zeilen(lesen(klima->pfad() / "bern.met"));
+        const std::vector<std::string> z = crlf_zeilen(datei_inhalt(klima->pfad() / "bern.met"));
         QCOMPARE(z.size(), std::size_t{8766});
         QCOMPARE(z[0], std::string("Bern (Schweiz)"));
         QCOMPARE(z[2], std::string("L\xe4ngengrad:   -7.43"));
@@ -374,7 +356,7 @@ private slots:
         nutzer->name = "spalten";
         QTest::mouseClick(w.Command2, Qt::LeftButton);
         QCOMPARE(nutzer->meldungen.back().text, BEENDET);
-        const std::vector<std::string> z = crlf_zeilen(lesen(klima->pfad() / "spalten.met"));
+        const std::vector<std::string> z = crlf_zeilen(datei_inhalt(klima->pfad() / "spalten.met"));
         QCOMPARE(z.size(), std::size_t{8766});
         QCOMPARE(z[2], std::string("L\xe4ngengrad:   -8"));
         QCOMPARE(z[6], std::string("    1-10.0    0    0"));
@@ -398,7 +380,7 @@ private slots:
                  std::string("Fehler! - Zu wenig Daten. Benötigt werden 8760 Stundenwerte!"));
 
         // A column text opened after it gets its controls back.
-        quelle(w, quellen.schreiben("wieder.txt", tabquelle(3)));
+        quelle(w, quellen.schreiben("wieder.txt", stundenquelle(3)));
         QVERIFY(w.Datenreihe[0]->isEnabled());
         QVERIFY(w.Kopfzeilen->isEnabled());
         QCOMPARE(w.Standortname->text(), QString());
@@ -427,8 +409,8 @@ private slots:
         QVERIFY(fs::exists(neu));
         // The same source and writer as the delivered station of region 1: all but the name
         // line are the same.
-        std::vector<std::string> z = crlf_zeilen(lesen(neu));
-        std::vector<std::string> bremen = crlf_zeilen(lesen(klima->pfad() / "bremen.met"));
+        std::vector<std::string> z = crlf_zeilen(datei_inhalt(neu));
+        std::vector<std::string> bremen = crlf_zeilen(datei_inhalt(klima->pfad() / "bremen.met"));
         QCOMPARE(z[0], std::string("Bremerhaven neu (Deutschland)"));
         z.erase(z.begin());
         bremen.erase(bremen.begin());
