@@ -28,7 +28,10 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <cmath>
+#include <cstdio>
 #include <filesystem>
+#include <functional>
 
 namespace fs = std::filesystem;
 
