@@ -25,8 +25,8 @@ namespace {
 constexpr const char* FILTER = "Alle Dateien (*.*)|*.*";
 
 // Left edge and width of the grid's columns, right of the row numbers.
-constexpr int GITTER_X = 64;
-constexpr int GITTER_BREITE = 136;
+constexpr int GITTER_X = 48;
+constexpr int GITTER_BREITE = 146;
 
 // A source's text as the controls show it: UTF-8 where it is, else the bytes as Latin-1, so
 // that an ANSI file keeps its umlauts.
@@ -108,12 +108,12 @@ KlimaimportFenster::KlimaimportFenster(Projekt& p, Dialogs& dateidialog, ImportD
 }
 
 void KlimaimportFenster::bauen() {
-    setFixedSize(920, 660);
+    setFixedSize(960, 660);
     const std::string& s = p_.Sprache;
 
-    QGroupBox* quelle = zeile(bau::rahmen(this, "Frame1", "Quelldatei", 8, 8, 904, 56), 1);
-    DateinameBox = feld(quelle, "DateinameBox", 12, 22, 700);
-    Command1 = zeile(bau::knopf(quelle, "Command1", "Quelldatei auswählen", 724, 20, 168, 26), 2);
+    QGroupBox* quelle = zeile(bau::rahmen(this, "Frame1", "Quelldatei", 8, 8, 944, 56), 1);
+    DateinameBox = feld(quelle, "DateinameBox", 12, 22, 740);
+    Command1 = zeile(bau::knopf(quelle, "Command1", "Quelldatei auswählen", 764, 20, 168, 26), 2);
 
     QGroupBox* format = zeile(bau::rahmen(this, "Frame2", "Datenformat", 8, 70, 450, 156), 3);
     const std::array<const char*, 3> trennung{
@@ -132,30 +132,30 @@ void KlimaimportFenster::bauen() {
     zeile(bau::text(format, "Label2", "Dezimalzeichen:", 12, 126), 8);
     Dezimalzeichen = liste(format, "Dezimalzeichen", text_dezimalzeichen(s), 200, 123, 120);
 
-    QGroupBox* ort = zeile(bau::rahmen(this, "Frame3", "Standort", 466, 70, 446, 156), 9);
+    QGroupBox* ort = zeile(bau::rahmen(this, "Frame3", "Standort", 466, 70, 486, 156), 9);
     zeile(bau::text(ort, "Label3", "Name des Standorts:", 12, 25), 10);
-    Standortname = feld(ort, "Standortname", 150, 22, 284);
+    Standortname = feld(ort, "Standortname", 150, 22, 320);
     zeile(bau::text(ort, "Label4", "Land:", 12, 51), 11);
-    Land = feld(ort, "Land", 150, 48, 284);
+    Land = feld(ort, "Land", 150, 48, 320);
     zeile(bau::text(ort, "Label5", "Breitengrad:", 12, 77), 12);
     Breitengrad = feld(ort, "Breitengrad", 150, 74, 130);
-    Breitezusatz = liste(ort, "Breitezusatz", text_breitezusatz(s), 290, 74, 144);
+    Breitezusatz = liste(ort, "Breitezusatz", text_breitezusatz(s), 290, 74, 180);
     zeile(bau::text(ort, "Label6", "Längengrad:", 12, 103), 13);
     Laengengrad = feld(ort, "Laengengrad", 150, 100, 130);
-    Laengezusatz = liste(ort, "Laengezusatz", text_laengezusatz(s), 290, 100, 144);
+    Laengezusatz = liste(ort, "Laengezusatz", text_laengezusatz(s), 290, 100, 180);
     zeile(bau::text(ort, "Label7", "Zeitzone:", 12, 129), 14);
     GMT = liste(ort, "GMT", text_gmt(), 150, 126, 130);
-    Zeitzone = feld(ort, "Zeitzone", 290, 126, 144);
+    Zeitzone = feld(ort, "Zeitzone", 290, 126, 180);
 
-    QGroupBox* ansicht = zeile(bau::rahmen(this, "Frame5", "Dateivorschau", 8, 232, 904, 150), 16);
+    QGroupBox* ansicht = zeile(bau::rahmen(this, "Frame5", "Dateivorschau", 8, 232, 944, 150), 16);
     Dateiansicht = new QPlainTextEdit(ansicht);
     Dateiansicht->setObjectName(QStringLiteral("Dateiansicht"));
     Dateiansicht->setReadOnly(true);
     Dateiansicht->setLineWrapMode(QPlainTextEdit::NoWrap);
     Dateiansicht->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    Dateiansicht->setGeometry(10, 20, 884, 120);
+    Dateiansicht->setGeometry(10, 20, 924, 120);
 
-    QGroupBox* gitter = zeile(bau::rahmen(this, "Frame4", "Datenzuordnung", 8, 388, 904, 226), 15);
+    QGroupBox* gitter = zeile(bau::rahmen(this, "Frame4", "Datenzuordnung", 8, 388, 944, 226), 15);
     const std::vector<std::string> arten = text_datenreihe(s);
     for (std::size_t j = 0; j < Spalte.size(); ++j) {
         const int x = GITTER_X + static_cast<int>(j) * GITTER_BREITE;
@@ -192,7 +192,7 @@ void KlimaimportFenster::bauen() {
     VScroll1->setPageStep(6);
 
     Abbrechen = zeile(bau::knopf(this, "Abbrechen", "Abbrechen", 8, 622, 150, 28), 17);
-    Command2 = zeile(bau::knopf(this, "Command2", "Klimaimport starten", 762, 622, 150, 28), 18);
+    Command2 = zeile(bau::knopf(this, "Command2", "Klimaimport starten", 802, 622, 150, 28), 18);
     for (QPushButton* k : {Command1, Abbrechen, Command2}) {
         k->setAutoDefault(false);
     }
