@@ -402,6 +402,7 @@ private slots:
         QVERIFY(!w.Command2->isEnabled());
         QTest::keyClicks(w.Standortname, QStringLiteral("Bremerhaven neu"));
         QVERIFY(w.Command2->isEnabled());
+        bild_speichern(w, QStringLiteral("klimaimport_try"));
         nutzer->name = "bremerhaven_neu";
         QTest::mouseClick(w.Command2, Qt::LeftButton);
         QCOMPARE(nutzer->eingabe_vorgabe,
