@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The column text of the import on arbitrary bytes: Meteonorm recognition, the column positions
-// of both blank modes, the fields of every line and the typed-number test.
+// of both blank modes, the fields of every line, the preview grid and the typed-number test.
 #include "climate/import/importieren.h"
 #include "climate/import/meteonorm.h"
 #include "climate/import/spalten.h"
+#include "climate/import/vorschau.h"
 #include "climate/import/zahltext.h"
 #include "climate/klimadatei.h"
 
@@ -23,6 +24,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t laenge) {
     for (int16_t modus = 0; modus <= 2; ++modus) {
         f.Datentrennung = modus;
         f.Dezimalzeichen = modus == 1 ? 1 : 0;
+        // Head lines, scroll positions and a column choice from the input's size.
+        f.Kopfzeilen = std::to_string(laenge % 7);
+        const int spalte = static_cast<int>(laenge % 120) - 5;
+        vorschau_fuellen(f, zeilen, spalte, static_cast<int>(laenge / 3 % 40000) - 3);
+        Datenreihe_Click(f, spalte, static_cast<int>(laenge % 8) - 1, static_cast<int16_t>(modus));
         for (std::size_t i = 0; i < zeilen.size() && i < 64; ++i) {
             if (modus != 0) {
                 Spalten_Festlegen(f, zeilen[i]);

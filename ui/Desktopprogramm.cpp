@@ -10,6 +10,7 @@
 #include "project/eingaben_anzeigen.h"
 #include "ui/ChartWidget.h"
 #include "ui/Drucken.h"
+#include "ui/QtImportDialoge.h"
 #include "ui/ReportFenster.h"
 #include "ui/Uebersetzen.h"
 
@@ -29,6 +30,7 @@ constexpr std::array<const char*, 6> HILFE_ANKER{"geometrie", "fenster", "daemmu
 
 Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
     : p(projekt()), klimaordner(datenordner("klima")),
+      import_dialoge(std::make_unique<QtImportDialoge>()),
       dialoge_(dialoge != nullptr ? dialoge : &qt_dialoge_), sprachwahl_(std::move(sprachwahl)) {
     // The planes were laid out for the small system sans of 8 points.
     QApplication::setFont(QtImageSurface::schrift("MS Sans Serif", 8.25, false));
@@ -38,6 +40,7 @@ Desktopprogramm::~Desktopprogramm() {
     // The refresh table gives the observer back to the planes before they go.
     auffrischen_.reset();
     zoom.reset();
+    klimaimport.reset();
     haupt.reset();
     io.reset();
     ebenen.reset();
@@ -206,6 +209,7 @@ void Desktopprogramm::fenster_bauen() {
         Drucken dialog(p, *ebenen, einstellung_.dezimal, haupt.get());
         dialog.exec();
     };
+    haupt->klimaimport = [this] { klimaimport_zeigen(); };
     haupt->ebene_gezeigt = [this] {
         // The planes' own flags tell the driver's observers what is on the screen.
         const int e = haupt->eingabe_gezeigt();
@@ -332,6 +336,12 @@ void Desktopprogramm::zoom_zeigen() {
     zoom->raise();
     zoom->Temperaturen->zeichnen();
     zoom->Temperaturen->update();
+}
+
+void Desktopprogramm::klimaimport_zeigen() {
+    klimaimport = std::make_unique<KlimaimportFenster>(p, *dialoge_, *import_dialoge, haupt.get());
+    klimaimport->setWindowModality(Qt::ApplicationModal);
+    klimaimport->show();
 }
 
 Ergebnisebenen Desktopprogramm::ergebnisebenen() {

@@ -10,6 +10,7 @@
 #include "ui/Ebenen.h"
 #include "ui/Hauptfenster.h"
 #include "ui/Hilfefenster.h"
+#include "ui/KlimaimportFenster.h"
 #include "ui/QtDialogs.h"
 #include "ui/StartFenster.h"
 #include "ui/ZoomFenster.h"
@@ -58,6 +59,10 @@ public:
     KlimawahlFelder klimawahl_felder;
     // The enlarged temperature window, made by the first click on the overview's chart.
     std::unique_ptr<ZoomFenster> zoom;
+    // The climate import window, made anew by each click on its menu entry and shown modal.
+    std::unique_ptr<KlimaimportFenster> klimaimport;
+    // Answers the import's messages and questions; Qt's boxes unless set otherwise.
+    std::unique_ptr<ImportDialoge> import_dialoge;
     // How many rows of the caption tables found no control at the English start.
     int unuebersetzt = 0;
     // The last fault of the calculation, empty while the results are valid.
@@ -76,6 +81,7 @@ private:
     // The result plane that came up: its fields and its charts from the record.
     void ausgabe_auffrischen();
     void zoom_zeigen();
+    void klimaimport_zeigen();
 
     QtDialogs qt_dialoge_;
     Dialogs* dialoge_;

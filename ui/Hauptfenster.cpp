@@ -135,8 +135,7 @@ void Hauptfenster::menue_bauen() {
     }
 
     QMenu* extras = menue(nullptr, "mnuExtras", "&Extras");
-    // The import dialog comes with the climate import.
-    eintrag(extras, "mnuKlimaImportieren", "&Klimadaten importieren", nullptr)->setEnabled(false);
+    eintrag(extras, "mnuKlimaImportieren", "&Klimadaten importieren", &klimaimport);
     QMenu* sprachen = menue(extras, "mnuSprache", "&Sprache");
     mnuSpracheDeutsch = eintrag(sprachen, "mnuSpracheDeutsch", "&Deutsch", nullptr);
     mnuSpracheEnglisch = eintrag(sprachen, "mnuSpracheEnglisch", "&English", nullptr);

@@ -45,6 +45,8 @@ public:
     // The print dialog, modal.
     std::function<void()> drucken;
     std::function<void(const char*)> sprache;
+    // Extras, the climate import window.
+    std::function<void()> klimaimport;
     // The close box: true lets the window close.
     std::function<bool()> schliessen_erlaubt;
     // After a plane came up.

@@ -7,7 +7,6 @@
 #include "climate/import/stationsschreiber.h"
 #include "climate/import/zahltext.h"
 #include "climate/klimadatei.h"
-#include "climate/numerisch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,9 +14,7 @@
 #include <fstream>
 #include <sstream>
 
-namespace {
-
-bool datei_lesen(const std::string& pfad, std::string& text) {
+bool quelltext_lesen(const std::string& pfad, std::string& text) {
     std::ifstream datei(pfad, std::ios::binary);
     if (!datei) {
         return false;
@@ -32,6 +29,8 @@ bool datei_lesen(const std::string& pfad, std::string& text) {
     text = inhalt.str();
     return true;
 }
+
+namespace {
 
 // A number as the fields show it: no sign, at most four decimals.
 std::string feldtext(double wert) {
@@ -58,10 +57,13 @@ void kopf_uebernehmen(Klimaimport& f, const Quelldaten& d) {
     f.Zeitzone = feldtext(d.ortszone);
 }
 
-// The head lines to skip: the numeric read of the field, rounded, never negative.
-std::size_t kopfzeilen(const Klimaimport& f) {
-    const double n = runden_gerade(numerisch_lesen(f.Kopfzeilen), 0);
-    return n > 0 && n < 1e9 ? static_cast<std::size_t>(n) : 0;
+// The fields from the head of a source text of a format read by its own rules. A fault among the
+// hours still leaves the head; the import names the fault later.
+void kopf_aus_text(Klimaimport& f, std::string_view text) {
+    Quelldaten daten;
+    Quellfehler fehler;
+    quelle_lesen(f.Format, text, daten, fehler);
+    kopf_uebernehmen(f, daten);
 }
 
 // A value of a column source: the field of column `spalte`, tested as a number.
@@ -117,7 +119,7 @@ bool spalten_lesen(const Klimaimport& f, std::string_view text, const std::strin
     const int strahlung = direkt ? direktspalte : gesamt;
 
     const std::vector<std::string_view> zeilen = zeilen_teilen(text);
-    const std::size_t kopf = kopfzeilen(f);
+    const std::size_t kopf = kopfzeilenzahl(f.Kopfzeilen);
     // The blank modes take their column positions from the first line behind the head, as the
     // preview does.
     Klimaimport g = f;
@@ -154,9 +156,15 @@ bool spalten_lesen(const Klimaimport& f, std::string_view text, const std::strin
 
 bool quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei) {
     std::string text;
-    if (!datei_lesen(pfad, text)) {
+    if (!quelltext_lesen(pfad, text)) {
         return false;
     }
+    quelle_annehmen(f, pfad, text, Datei);
+    return true;
+}
+
+void quelle_annehmen(Klimaimport& f, const std::string& pfad, std::string_view text,
+                     std::string& Datei) {
     Datei = pfad;
     f.DateinameBox = pfad;
     const std::vector<std::string_view> zeilen = zeilen_teilen(text);
@@ -174,7 +182,7 @@ bool quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei)
     const std::vector<std::string_view> kopf(zeilen.begin(), zeilen.begin() + vorschau);
     if (ist_meteonorm(kopf)) {
         Meteonorm_Lesen(f, kopf);
-        return true;
+        return;
     }
     f.Kopfzeilen.clear();
     f.Dezimalzeichen = 0;
@@ -187,21 +195,16 @@ bool quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei)
     if (f.Format != Quellformat::spalten) {
         f.Kopfzeilen = "0";
         f.Datentrennung = 0;
-        quelle_kopf_lesen(f);
+        kopf_aus_text(f, text);
     }
-    return true;
 }
 
 bool quelle_kopf_lesen(Klimaimport& f) {
     std::string text;
-    Quelldaten daten;
-    Quellfehler fehler;
-    if (f.Format == Quellformat::spalten || !datei_lesen(f.DateinameBox, text)) {
+    if (f.Format == Quellformat::spalten || !quelltext_lesen(f.DateinameBox, text)) {
         return false;
     }
-    // A fault among the hours still leaves the head; the import names the fault later.
-    quelle_lesen(f.Format, text, daten, fehler);
-    kopf_uebernehmen(f, daten);
+    kopf_aus_text(f, text);
     return true;
 }
 
@@ -238,7 +241,7 @@ Importergebnis klimadaten_importieren(const Klimaimport& f, const std::string& k
     Importergebnis ergebnis;
     const std::string titel = text_fehler_titel(Sprache);
     std::string text;
-    if (!datei_lesen(f.DateinameBox, text)) {
+    if (!quelltext_lesen(f.DateinameBox, text)) {
         dialoge.meldung(titel, text_nicht_lesbar(Sprache, f.DateinameBox));
         return ergebnis;
     }

@@ -8,6 +8,7 @@
 #include "climate/import/quelle.h"
 
 #include <string>
+#include <string_view>
 
 // What the import needs of the user: one-button messages, the input box and the yes/no question.
 class ImportDialoge {
@@ -25,6 +26,10 @@ public:
 // Largest source file the import reads, bytes.
 constexpr std::size_t IMPORT_HOECHSTGROESSE = 256u << 20;
 
+// The whole text of a source; false when it cannot be read or is larger than
+// IMPORT_HOECHSTGROESSE.
+bool quelltext_lesen(const std::string& pfad, std::string& text);
+
 // Preview lines read when a source is opened.
 constexpr int VORSCHAU_ZEILEN = 250;
 
@@ -35,6 +40,10 @@ constexpr int VORSCHAU_ZEILEN = 250;
 // where the file gives them); any other source leaves the fields empty for the user. False, with
 // nothing changed, when the file cannot be read.
 bool quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei);
+
+// quelle_oeffnen on the text of the source `pfad` read already.
+void quelle_annehmen(Klimaimport& f, const std::string& pfad, std::string_view text,
+                     std::string& Datei);
 
 // Fills place, country, coordinates and zone from the head of a source that f.Format reads by
 // its own rules (the fields keep what the source does not give). False when the file cannot be

@@ -76,3 +76,37 @@ std::string text_nicht_lesbar(const std::string& Sprache, const std::string& pfa
     return Sprache == "e" ? "The file \"" + pfad + "\" cannot be read."
                           : "Die Datei \"" + pfad + "\" kann nicht gelesen werden.";
 }
+
+std::vector<std::string> text_dezimalzeichen(const std::string& Sprache) {
+    if (Sprache == "e") {
+        return {"Dot (.)", "Comma (,)"};
+    }
+    return {"Punkt (.)", "Komma (,)"};
+}
+
+std::vector<std::string> text_breitezusatz(const std::string& Sprache) {
+    if (Sprache == "e") {
+        return {"North", "South"};
+    }
+    return {"Nord", "Süd"};
+}
+
+std::vector<std::string> text_laengezusatz(const std::string& Sprache) {
+    if (Sprache == "e") {
+        return {"East", "West"};
+    }
+    return {"Ost", "West"};
+}
+
+std::vector<std::string> text_gmt() {
+    return {"GMT + ", "GMT - "};
+}
+
+std::vector<std::string> text_datenreihe(const std::string& Sprache) {
+    if (Sprache == "e") {
+        return {"- not used -", "Outdoor air temperature", "Total radiation", "Direct radiation",
+                "Diffuse radiation"};
+    }
+    return {"- unbenutzt -", "Außenlufttemperatur", "Gesamtstrahlung", "Direktstrahlung",
+            "Diffusstrahlung"};
+}

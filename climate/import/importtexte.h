@@ -4,6 +4,7 @@
 // The messages of the climate import in both languages; `Sprache` is "d" or "e".
 
 #include <string>
+#include <vector>
 
 std::string text_fehler_titel(const std::string& Sprache);
 std::string text_keine_strahlung(const std::string& Sprache);
@@ -22,3 +23,15 @@ std::string text_beendet(const std::string& Sprache);
 std::string text_nicht_schreibbar(const std::string& Sprache, const std::string& pfad);
 // The source file could not be read.
 std::string text_nicht_lesbar(const std::string& Sprache, const std::string& pfad);
+
+// The entries of the window's lists, from index 0.
+// Dezimalzeichen: point, comma.
+std::vector<std::string> text_dezimalzeichen(const std::string& Sprache);
+// Breitezusatz: north, south.
+std::vector<std::string> text_breitezusatz(const std::string& Sprache);
+// Laengezusatz: east, west.
+std::vector<std::string> text_laengezusatz(const std::string& Sprache);
+// GMT: east of Greenwich ("GMT + "), west ("GMT - "); the same in both languages.
+std::vector<std::string> text_gmt();
+// Datenreihe: the five Spaltenart entries, unused to diffuse.
+std::vector<std::string> text_datenreihe(const std::string& Sprache);

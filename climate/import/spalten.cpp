@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/import/spalten.h"
 
+#include "climate/import/zahltext.h"
+#include "climate/numerisch.h"
+
 #include <algorithm>
 #include <cstdint>
 
@@ -104,4 +107,9 @@ void Stelle(const Klimaimport& f, std::string_view zeile, int n, std::string& we
     } else {
         StelleLeer(f, zeile, n, wert, ok);
     }
+}
+
+std::size_t kopfzeilenzahl(const std::string& Kopfzeilen) {
+    const double n = runden_gerade(numerisch_lesen(Kopfzeilen), 0);
+    return n > 0 && n < 1e9 ? static_cast<std::size_t>(n) : 0;
 }

@@ -23,3 +23,7 @@ void StelleLeer(const Klimaimport& f, std::string_view zeile, int n, std::string
 
 // The n-th field by the separation mode of the window: StelleTab for mode 0, else StelleLeer.
 void Stelle(const Klimaimport& f, std::string_view zeile, int n, std::string& wert, bool& ok);
+
+// The head lines to skip for the text of Kopfzeilen: its numeric read, rounded to a whole number
+// (halves to even), never negative.
+std::size_t kopfzeilenzahl(const std::string& Kopfzeilen);

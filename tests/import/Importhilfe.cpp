@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/import/Importhilfe.h"
 
+#include <fstream>
+#include <sstream>
+
 std::string spaltentext(int kopf, int zeilen, const std::function<std::string(int)>& zeile) {
     std::string text;
     for (int i = 0; i < kopf; ++i) {
@@ -23,4 +26,19 @@ std::vector<std::string> crlf_zeilen(const std::string& text) {
         aus.push_back(text.substr(anfang));
     }
     return aus;
+}
+
+std::string stundenquelle(int zeilen) {
+    return spaltentext(2, zeilen, [](int i) {
+        return std::to_string(i) + "\t" + std::to_string(i % 30 - 10) + ".25\t" +
+               std::to_string(i % 7 * 100) + "\t" + std::to_string(i % 7 * 10) + "\t" +
+               std::to_string(i % 7 * 20) + ".5";
+    });
+}
+
+std::string datei_inhalt(const std::filesystem::path& pfad) {
+    std::ifstream datei(pfad, std::ios::binary);
+    std::ostringstream inhalt;
+    inhalt << datei.rdbuf();
+    return inhalt.str();
 }

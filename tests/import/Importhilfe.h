@@ -5,6 +5,7 @@
 
 #include "climate/import/importieren.h"
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -43,3 +44,10 @@ std::string spaltentext(int kopf, int zeilen, const std::function<std::string(in
 
 // The lines of a text split at CR LF.
 std::vector<std::string> crlf_zeilen(const std::string& text);
+
+// A tab-separated source of `zeilen` hours after two head lines: hour, Ta, total, direct,
+// diffuse.
+std::string stundenquelle(int zeilen);
+
+// The bytes of a file.
+std::string datei_inhalt(const std::filesystem::path& pfad);

@@ -6,28 +6,9 @@
 #include "tests/import/Importhilfe.h"
 #include "tests/support/Testprojekt.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace {
-
-std::string lesen(const std::filesystem::path& pfad) {
-    std::ifstream datei(pfad, std::ios::binary);
-    std::ostringstream inhalt;
-    inhalt << datei.rdbuf();
-    return inhalt.str();
-}
-
-// A tab-separated source of `zeilen` hours after two head lines: hour, Ta, total, direct,
-// diffuse.
-std::string quelle(int zeilen) {
-    return spaltentext(2, zeilen, [](int i) {
-        return std::to_string(i) + "\t" + std::to_string(i % 30 - 10) + ".25\t" +
-               std::to_string(i % 7 * 100) + "\t" + std::to_string(i % 7 * 10) + "\t" +
-               std::to_string(i % 7 * 20) + ".5";
-    });
-}
 
 // The window after opening `pfad` and choosing the columns.
 Klimaimport fenster(const std::filesystem::path& pfad) {
@@ -51,7 +32,7 @@ Klimaimport fenster(const std::filesystem::path& pfad) {
 
 TEST(Import, TooFewRowsAreRefusedInBothLanguages) {
     TempOrdner ordner;
-    const Klimaimport f = fenster(ordner.schreiben("kurz.txt", quelle(8759)));
+    const Klimaimport f = fenster(ordner.schreiben("kurz.txt", stundenquelle(8759)));
     Skriptnutzer nutzer;
     EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer).ausgang,
               Importausgang::fehler);
@@ -68,7 +49,7 @@ TEST(Import, TooFewRowsAreRefusedInBothLanguages) {
 
 TEST(Import, MoreRowsThanAYearUseTheFirst8760) {
     TempOrdner ordner;
-    const Klimaimport f = fenster(ordner.schreiben("lang.txt", quelle(8761)));
+    const Klimaimport f = fenster(ordner.schreiben("lang.txt", stundenquelle(8761)));
     Skriptnutzer nutzer;
     const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
     ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
@@ -76,7 +57,7 @@ TEST(Import, MoreRowsThanAYearUseTheFirst8760) {
     EXPECT_EQ(nutzer.meldungen[0].text,
               "Klimadatenimport beendet! Biite starten Sie Velmaris neu, um die gerade "
               "importierten Daten verwenden zu können.");
-    const std::vector<std::string> z = crlf_zeilen(lesen(e.pfad));
+    const std::vector<std::string> z = crlf_zeilen(datei_inhalt(e.pfad));
     ASSERT_EQ(z.size(), 8766u);
     EXPECT_EQ(z[0], "Teststadt (Testland)");
     EXPECT_EQ(z[3], "Zeitzone:     -1");
@@ -90,25 +71,25 @@ TEST(Import, MoreRowsThanAYearUseTheFirst8760) {
 
 TEST(Import, TotalColumnBeatsDirectColumn) {
     TempOrdner ordner;
-    Klimaimport f = fenster(ordner.schreiben("q.txt", quelle(8760)));
+    Klimaimport f = fenster(ordner.schreiben("q.txt", stundenquelle(8760)));
     f.Spaltenbelegung[4] = SPALTE_DIREKT;
     Skriptnutzer nutzer;
     const Importergebnis mit_gesamt =
         klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
     ASSERT_EQ(mit_gesamt.ausgang, Importausgang::geschrieben);
-    EXPECT_EQ(crlf_zeilen(lesen(mit_gesamt.pfad))[8], "    1 -8.2  200 40.5");
+    EXPECT_EQ(crlf_zeilen(datei_inhalt(mit_gesamt.pfad))[8], "    1 -8.2  200 40.5");
 
     // Without the total, direct + diffuse: 20 + 40.5 rounds to 60 (halves to even).
     f.Spaltenbelegung[3] = SPALTE_UNBENUTZT;
     nutzer.name = "direkt";
     const Importergebnis ohne = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
     ASSERT_EQ(ohne.ausgang, Importausgang::geschrieben);
-    EXPECT_EQ(crlf_zeilen(lesen(ohne.pfad))[8], "    1 -8.2   60 40.5");
+    EXPECT_EQ(crlf_zeilen(datei_inhalt(ohne.pfad))[8], "    1 -8.2   60 40.5");
 }
 
 TEST(Import, MissingColumnsAreNamedInTheirOrder) {
     TempOrdner ordner;
-    Klimaimport f = fenster(ordner.schreiben("q.txt", quelle(8760)));
+    Klimaimport f = fenster(ordner.schreiben("q.txt", stundenquelle(8760)));
     f.Spaltenbelegung.fill(SPALTE_UNBENUTZT);
     f.Spaltenbelegung[5] = SPALTE_DIFFUS;
     Skriptnutzer nutzer;
@@ -128,7 +109,7 @@ TEST(Import, MissingColumnsAreNamedInTheirOrder) {
 
 TEST(Import, BadValueNamesTheFileLine) {
     TempOrdner ordner;
-    std::string text = quelle(8760);
+    std::string text = stundenquelle(8760);
     // Data row 5 (file line 7) gets a text in the total column; row 9 one as well.
     const std::vector<std::string> z = crlf_zeilen(text);
     text.clear();
@@ -147,7 +128,7 @@ TEST(Import, BadValueNamesTheFileLine) {
 
 TEST(Import, NameQuestionAndOverwrite) {
     TempOrdner ordner;
-    const Klimaimport f = fenster(ordner.schreiben("Messung.2019.txt", quelle(8760)));
+    const Klimaimport f = fenster(ordner.schreiben("Messung.2019.txt", stundenquelle(8760)));
     Skriptnutzer nutzer;
     nutzer.name = "";
     EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer).ausgang,
@@ -167,12 +148,12 @@ TEST(Import, NameQuestionAndOverwrite) {
     ASSERT_EQ(nutzer.fragen.size(), 1u);
     EXPECT_EQ(nutzer.fragen[0], "This filename already exists. Should the data set, saved under "
                                 "this filename, be overwritten?");
-    EXPECT_EQ(lesen(vorhanden), "alt");
+    EXPECT_EQ(datei_inhalt(vorhanden), "alt");
 
     nutzer.ueberschreiben = true;
     EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer).ausgang,
               Importausgang::geschrieben);
-    EXPECT_EQ(crlf_zeilen(lesen(vorhanden)).size(), 8766u);
+    EXPECT_EQ(crlf_zeilen(datei_inhalt(vorhanden)).size(), 8766u);
     EXPECT_EQ(nutzer.meldungen.back().text,
               "Import finished. Please re-start Velmaris to use the new imported data.");
 }
@@ -186,7 +167,7 @@ TEST(Import, DefaultName) {
 
 TEST(Import, AllInputsMustBeGiven) {
     TempOrdner ordner;
-    Klimaimport f = fenster(ordner.schreiben("q.txt", quelle(10)));
+    Klimaimport f = fenster(ordner.schreiben("q.txt", stundenquelle(10)));
     EXPECT_TRUE(AlleEingabenTesten(f));
     Klimaimport ohne_land = f;
     ohne_land.Land.clear();
@@ -218,7 +199,7 @@ TEST(Import, BlankSeparatedRightAlignedSource) {
     Skriptnutzer nutzer;
     const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
     ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
-    const std::vector<std::string> z = crlf_zeilen(lesen(e.pfad));
+    const std::vector<std::string> z = crlf_zeilen(datei_inhalt(e.pfad));
     EXPECT_EQ(z[7], "    1 -0.4  100   12") << "-0.4 keeps its zero, five wide";
 }
 
@@ -242,7 +223,7 @@ TEST(Import, MeteonormSourceIsFilledInOnOpening) {
     const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
     ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
     EXPECT_EQ(nutzer.eingabe_vorgabe, "davos");
-    const std::vector<std::string> z = crlf_zeilen(lesen(e.pfad));
+    const std::vector<std::string> z = crlf_zeilen(datei_inhalt(e.pfad));
     EXPECT_EQ(z[1], "Breitengrad:   46.8");
     EXPECT_EQ(z[2], "L\xE4ngengrad:    9.83");
     EXPECT_EQ(z[3], "Zeitzone:     -1");
