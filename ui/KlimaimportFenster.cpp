@@ -278,6 +278,9 @@ void KlimaimportFenster::quelle_waehlen(const std::string& pfad) {
     text_ = std::move(text);
     zeilen_ = zeilen_teilen(text_);
     quelle_annehmen(f, pfad, text_, p_.Datei);
+    // The project now remembers the source's name; the next save must ask for a name instead of
+    // writing the project over the climate data.
+    p_.Datei_offen = 0;
     f.Laden_aktiv = true;
     felder_zeigen();
     HScroll1->setValue(1);

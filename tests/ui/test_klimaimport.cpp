@@ -31,6 +31,7 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 
 namespace fs = std::filesystem;
@@ -169,12 +170,23 @@ private slots:
                                   }
                                   return z;
                               }));
+        // As if a project file were open: its save would go to the remembered name.
+        programm->p.Datei_offen = 1;
         quelle(w, pfad);
         for (QGroupBox* r : w.schritte) {
             QVERIFY(r->isVisible());
         }
-        // The source's name is the project's remembered file name now.
+        // The source's name is the project's remembered file name now, but a save asks for a
+        // name and, cancelled, leaves the source as it was.
         QCOMPARE(programm->p.Datei, pfad.string());
+        const std::size_t dialoge_vorher = dialoge->dialoge.size();
+        programm->io->datei_speichern();
+        QCOMPARE(dialoge->dialoge.size(), dialoge_vorher + 1);
+        QVERIFY(dialoge->dialoge.back().rfind("speichern ", 0) == 0);
+        std::ifstream unveraendert(pfad);
+        std::string erste;
+        std::getline(unveraendert, erste);
+        QVERIFY(erste.rfind("Kopf 1", 0) == 0);
         QCOMPARE(w.DateinameBox->text(), QString::fromStdString(pfad.string()));
         QVERIFY(w.Dateiansicht->toPlainText().startsWith(
             QStringLiteral("Kopf 1\nKopf 2\nKopf 3\n101\t102\t103")));
