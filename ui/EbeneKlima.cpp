@@ -4,8 +4,6 @@
 #include "ui/Bau.h"
 #include "ui/Ebenen.h"
 
-#include <filesystem>
-
 using namespace bau;
 
 namespace {
@@ -96,8 +94,7 @@ void klima_ausfuellen(const KlimaFelder& f, const Projekt& p, char dez) {
     const Klimakennwerte& k = p.Klimainfo;
     auto zahl = [dez](double v, const char* muster) { return qt(format_muster(v, muster, dez)); };
     auto monat = [&p](int m) { return m >= 1 && m <= 12 ? qt(p.Monat[m].Name) : QString(); };
-    // The station by its file name, without folder and extension.
-    f.anz_klimaregion->setText(qt(std::filesystem::path(p.Klimadatei).stem().string()));
+    f.anz_klimaregion->setText(qt(k.Klimaname));
     // The station's year values are written when a station is loaded; a record that has read
     // its station file without that step has none yet, and the fields stay empty.
     const bool jahreswerte = k.MaxMonat >= 1 && k.MaxMonat <= 12;
