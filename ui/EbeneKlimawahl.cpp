@@ -309,6 +309,8 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
         };
         // The window's title is the caption above its list, in the language of the run.
         w.E_Zoom_Klima->setWindowTitle(w.E_Zoom_Klima->ueberschrift->text());
+        // The climate information plane, built beside this one, if the window holds it.
+        QLabel* klimaname = ebene->window()->findChild<QLabel*>(QStringLiteral("anz_klimaregion"));
         bd.folgen([=, &k, &p] {
             for (std::size_t i = 0; i < w.Option.size(); ++i) {
                 const QSignalBlocker still(w.Option[i]);
@@ -337,9 +339,8 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
             }
             // wetter_laden names the station on the climate information plane after the
             // recalculation, so after that plane's own refresh.
-            if (auto* name =
-                    ebene->window()->findChild<QLabel*>(QStringLiteral("anz_klimaregion"))) {
-                name->setText(QString::fromStdString(p.Klimainfo.Klimaname));
+            if (klimaname != nullptr) {
+                klimaname->setText(QString::fromStdString(p.Klimainfo.Klimaname));
             }
             // The year values of the station read last; none before the first read.
             const Klimakennwerte& info = p.Klimainfo;

@@ -241,6 +241,7 @@ private slots:
         QVERIFY(f.MausTimer1->isActive());
         QTRY_VERIFY_WITH_TIMEOUT(f.MausRegion->isVisible(), 2000);
         QVERIFY(f.MausTimer2->isActive());
+        bild_speichern(*programm->haupt, QStringLiteral("klima_europa_hover"));
 
         QTest::mouseRelease(f.Picture2, Qt::LeftButton, Qt::NoModifier, q + QPoint(1, 1));
         QCOMPARE(p.Klimadatei, l.Dateiname[static_cast<std::size_t>(j)]);
