@@ -15,7 +15,9 @@
 
 namespace {
 
-// wetter_laden with the plane's part of it: the German map shows the region of a region file.
+// wetter_laden with the plane's part of it: the German map shows the region of a region file,
+// and after the read and the recalculation the climate information plane names the station by
+// the list of the scope as it stands now.
 void laden(E_Klima& e, Projekt& p) {
     for (int i = 1; i <= KLIMAREGIONEN; ++i) {
         if (p.Regionsdatei[i] == p.Klimadatei) {
@@ -23,6 +25,8 @@ void laden(E_Klima& e, Projekt& p) {
         }
     }
     wetter_laden(p);
+    p.Klimainfo.Klimaname =
+        p.Klimaauswahl == 1 ? "Region " + e.Klimaregionwahl.Text : e.Klimaregionwahl2.Text;
 }
 
 void fehlt_melden(const Projekt& p, Dialogs& d) {

@@ -33,6 +33,7 @@ struct E_Klima {
     int sichtbar = 0;            // scope whose frames and map are shown, 1..3; 0 before a choice
     std::string Picture1;        // German map picture, relative to the program folder
     std::string plz;             // post code field, up to five digits
+    std::string MausRegion;      // hover text over the Europe or world map: a station name or empty
     // World map scrolling, in twips (1/15 pixel): the map's left edge is -HScroll1.
     int HScroll1 = 0;
     int HScroll1_max = 0;

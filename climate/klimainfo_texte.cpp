@@ -4,8 +4,6 @@
 #include "planes/Zahlformat.h"
 #include "project/c_glob.h"
 
-#include <filesystem>
-
 KlimainfoTexte klimainfo_texte(const Projekt& p, char dezimal) {
     const Klimakennwerte& k = p.Klimainfo;
     auto zahl = [dezimal](double v, const char* muster) {
@@ -13,7 +11,7 @@ KlimainfoTexte klimainfo_texte(const Projekt& p, char dezimal) {
     };
     auto monat = [&p](int m) { return m >= 1 && m <= 12 ? p.Monat[m].Name : std::string(); };
     KlimainfoTexte t;
-    t.anz_klimaregion = std::filesystem::path(p.Klimadatei).stem().string();
+    t.anz_klimaregion = k.Klimaname;
     // The station's year values are written when a station is loaded; a record that has read
     // its station file without that step has none yet.
     const bool jahreswerte = k.MaxMonat >= 1 && k.MaxMonat <= 12;

@@ -8,7 +8,7 @@ struct Projekt;
 // The texts of the labels of the climate and building plane A_Klima, formed from the record:
 // what the plane shows and what the report reads as its building rows.
 struct KlimainfoTexte {
-    std::string anz_klimaregion;                       // the station by its file name
+    std::string anz_klimaregion;                       // the region or station chosen
     std::string anz_MaxJahrTemp, anz_MinJahrTemp;      // extreme hourly Ta, "0.0"
     std::string anz_MaxMonatTemp, anz_MinMonatTemp;    // warmest, coldest month mean, "0.0"
     std::string anz_MaxMonatName, anz_MinMonatName;    // their names

@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int HOVER_VERSUCHE = 250;
+constexpr int TWIPS = 15;
 constexpr double KLICK_TOLERANZ = 3.0;
 
 bool nahe(const Stationsliste& liste, int i, double x, double y, double toleranz, double faktor) {
@@ -73,4 +74,20 @@ void station_karte_klick(E_Klima& e, Projekt& p, int32_t farbe, double x, double
         e.Klimaregionwahl2.waehlen(k);
         Klimaregionwahl2_Click(e, p);
     }
+}
+
+void station_karte_hover(E_Klima& e, const Projekt& p, int32_t farbe, double x, double y) {
+    const bool europa = p.Klimaauswahl == 2;
+    e.MausRegion = station_unter_maus(europa ? e.listen.Europa : e.listen.Welt, farbe, x, y,
+                                      europa ? TOLERANZ_EUROPA : TOLERANZ_WELT, e.zufall);
+}
+
+void weltkarte_einrichten(E_Klima& e, int karte, int rahmen) {
+    e.picture3f_breite = rahmen * TWIPS;
+    e.HScroll1_max = std::max(0, karte - rahmen) * TWIPS;
+    HScroll1_Change(e, e.HScroll1);
+}
+
+void HScroll1_Change(E_Klima& e, int wert) {
+    e.HScroll1 = std::min(std::max(wert, 0), e.HScroll1_max);
 }

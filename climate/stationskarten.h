@@ -19,6 +19,12 @@ constexpr int32_t FARBE_STATION = 65535;
 // Colour of the dot of the selected station, red.
 constexpr int32_t FARBE_GEWAEHLT = 255;
 
+// Hover tolerance of the Europe and of the world map, pixels in each axis.
+constexpr double TOLERANZ_EUROPA = 3.0;
+constexpr double TOLERANZ_WELT = 2.0;
+// Factor of the enlarged world map.
+constexpr double ZOOM_FAKTOR = 1.5;
+
 // A filled circle of radius 2 pixels.
 struct Kartenpunkt {
     double x = 0, y = 0; // centre, pixels
@@ -47,3 +53,14 @@ int station_beim_klick(const Stationsliste& liste, int32_t farbe, double x, doub
 // through the station list's pick.
 void station_karte_klick(E_Klima& e, Projekt& p, int32_t farbe, double x, double y,
                          const std::string& maus_region);
+
+// The mouse over the map of the plane's current scope at (x, y) with `farbe` under it: MausRegion
+// names the station found by station_unter_maus with the scope's tolerance, or is cleared.
+void station_karte_hover(E_Klima& e, const Projekt& p, int32_t farbe, double x, double y);
+
+// The world map of `karte` pixels in a frame of `rahmen` pixels: the frame width and the largest
+// scroll value in twips (15 to the pixel); the scroll value is kept inside.
+void weltkarte_einrichten(E_Klima& e, int karte, int rahmen);
+
+// HScroll1 moved to `wert` twips, held inside 0..HScroll1_max: the map's left edge is -HScroll1.
+void HScroll1_Change(E_Klima& e, int wert);

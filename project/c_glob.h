@@ -99,6 +99,9 @@ struct Klimakennwerte {
     float Heizgrenztemperatur = 0;            // heating limit temperature, °C
     int Heiztage = 0;                         // days with a mean below the limit
     float Heizgradtage = 0;                   // heating degree days 20/12, Kd
+    // The station as the climate plane's last load named it: "Region " + the region row in the
+    // Germany scope, the station row in the others; empty before the first load.
+    std::string Klimaname;
 };
 
 struct Projekt {

@@ -1,16 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/Bitmap.h"
 #include "climate/E_Klima.h"
+#include "climate/stationskarten.h"
+#include "planes/Zahlformat.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
 #include "ui/Bau.h"
 #include "ui/Bindungen.h"
 #include "ui/Ebenen.h"
+#include "ui/Stationskarte.h"
+#include "ui/ZoomKlima.h"
 
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QScrollBar>
 #include <QTimer>
 
 #include <memory>
@@ -69,6 +75,37 @@ protected:
         return true;
     }
 };
+
+// Image1: a small picture of the world map that opens the enlarged one when clicked.
+class Bildknopf : public QLabel {
+public:
+    using QLabel::QLabel;
+    std::function<void()> klick;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* e) override {
+        if (klick && rect().contains(e->position().toPoint())) {
+            klick();
+        }
+        QLabel::mouseReleaseEvent(e);
+    }
+};
+
+// The pictures of the station maps, in pixels.
+constexpr int EUROPA_BREITE = 234;
+constexpr int EUROPA_HOEHE = 201;
+constexpr int WELT_BREITE = 650;
+constexpr int WELT_HOEHE = 250;
+
+// The climate data: a caption, its value and the unit; `name` names the caption when it is one
+// of the plane's own labels.
+QLabel* klimawert(QWidget* rahmen, const char* name, const char* text, int zeile, int y) {
+    bau::text(rahmen, name, text, 10, y + 1)->setProperty("zeile", zeile);
+    QLabel* wert = anzeige(rahmen, 220, y, 60);
+    wert->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    bau::text(rahmen, nullptr, "°C", 286, y + 1);
+    return wert;
+}
 
 void zeilen_setzen(QComboBox& cb, const Klimaliste& l) {
     if (cb.count() != static_cast<int>(l.Eintraege.size())) {
@@ -139,6 +176,46 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
     f.Klimaregionwahl2 = liste(&e, 8, 30, 336);
     f.Klimaregionwahl2->setObjectName(QStringLiteral("Klimaregionwahl2"));
 
+    f.Picture2 = new Stationskarte(&e, grafiken + "/europa.bmp", EUROPA_BREITE, EUROPA_HOEHE);
+    f.Picture2->setObjectName(QStringLiteral("Picture2"));
+    f.Picture2->move(59, 60);
+    f.picture3f = new QFrame(&e);
+    f.picture3f->setObjectName(QStringLiteral("picture3f"));
+    f.picture3f->setGeometry(8, 60, 336, WELT_HOEHE);
+    f.Picture3 = new Stationskarte(f.picture3f, grafiken + "/welt.bmp", WELT_BREITE, WELT_HOEHE);
+    f.Picture3->setObjectName(QStringLiteral("Picture3"));
+    f.HScroll1 = balken(&e, Qt::Horizontal, 8, 312, 336, 17);
+    f.HScroll1->setObjectName(QStringLiteral("HScroll1"));
+    weltkarte_einrichten(k, WELT_BREITE, f.picture3f->width());
+    f.HScroll1->setRange(0, k.HScroll1_max);
+    f.HScroll1->setSingleStep(10 * TWIPS_JE_PIXEL);
+    f.HScroll1->setPageStep(k.picture3f_breite);
+    QGroupBox* grafik = rahmen(&e, "Frame_Grafik", "Grafik", 8, 334, 180, 84);
+    grafik->setProperty("zeile", 3);
+    auto* image1 = new Bildknopf(grafik);
+    image1->setObjectName(QStringLiteral("Image1"));
+    image1->setGeometry(9, 18, WELT_BREITE / 4, WELT_HOEHE / 4);
+    image1->setPixmap(QPixmap(QString::fromStdString(grafiken + "/welt.bmp"))
+                          .scaled(image1->size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    image1->setCursor(Qt::PointingHandCursor);
+    f.Image1 = image1;
+    f.E_Zoom_Klima = new ZoomKlimaFenster(k, grafiken + "/welt.bmp", &e);
+    const Schwebetext maus = Schwebetext::bauen(&e, "MausRegion");
+    f.MausRegion = maus.label;
+    f.MausTimer1 = maus.Timer1;
+    f.MausTimer2 = maus.Timer2;
+
+    QGroupBox* daten = rahmen(&e, "Frame_Klimadaten", "Klimadaten", 8, 424, 336, 90);
+    daten->setProperty("zeile", 6);
+    f.anz_MittelJahrTemp = klimawert(daten, nullptr, "Jahresmitteltemperatur", 7, 18);
+    f.anz_MinMonatTemp = klimawert(daten, "anz_MinMonatText", "min. Monatsmittelwert", 8, 41);
+    f.anz_MaxMonatTemp = klimawert(daten, "anz_MaxMonatText", "max. Monatsmittelwert", 9, 64);
+    f.anz_MittelJahrTemp->setObjectName(QStringLiteral("anz_MittelJahrTemp"));
+    f.anz_MinMonatTemp->setObjectName(QStringLiteral("anz_MinMonatTemp"));
+    f.anz_MaxMonatTemp->setObjectName(QStringLiteral("anz_MaxMonatTemp"));
+    f.anz_MinMonatText = daten->findChild<QLabel*>(QStringLiteral("anz_MinMonatText"));
+    f.anz_MaxMonatText = daten->findChild<QLabel*>(QStringLiteral("anz_MaxMonatText"));
+
     auto* filter = new PlzFilter;
     filter->setParent(f.plz);
     f.plz->installEventFilter(filter);
@@ -156,6 +233,7 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
     };
 
     const KlimawahlFelder w = f;
+    QWidget* ebene = &e;
     bau.binden.push_back([=, &k, &p, &d](Bindungen& bd) {
         using Handler = void (*)(E_Klima&, Projekt&, Dialogs&, bool);
         const std::array<Handler, 3> handler{Option1_Click, Option2_Click, Option3_Click};
@@ -207,6 +285,32 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
         QObject::connect(w.PLZsuchen, &QPushButton::clicked, w.PLZsuchen, [&bd, &k, &p, &d] {
             bd.ausfuehren([&k, &p, &d] { PLZsuchen_Click(k, p, d); });
         });
+        // Both station maps: the hover names a station by the random search, the release on a
+        // yellow dot picks through the station list.
+        for (Stationskarte* karte_n : {w.Picture2, w.Picture3}) {
+            karte_n->bewegung = [maus, karte_n, ebene, &k, &p](int32_t farbe, int x, int y) {
+                station_karte_hover(k, p, farbe, x, y);
+                const QPoint auf_ebene = karte_n->mapTo(ebene, QPoint(x, y));
+                maus.bewegt(auf_ebene.x(), auf_ebene.y(), k.MausRegion);
+            };
+            karte_n->loslassen = [&bd, &k, &p](int32_t farbe, int x, int y) {
+                bd.ausfuehren([&k, &p, farbe, x, y] {
+                    station_karte_klick(k, p, farbe, x, y, k.MausRegion);
+                });
+            };
+        }
+        QObject::connect(w.HScroll1, &QScrollBar::valueChanged, w.HScroll1, [w, &k](int wert) {
+            HScroll1_Change(k, wert);
+            w.Picture3->move(-k.HScroll1 / TWIPS_JE_PIXEL, 0);
+        });
+        image1->klick = [w] { w.E_Zoom_Klima->oeffnen(); };
+        w.E_Zoom_Klima->bestaetigt = [&bd, &k, &p](const E_Zoom_Klima& z) {
+            bd.ausfuehren([&k, &p, z] { E_Zoom_Klima_Command1(z, k, p); });
+        };
+        // The window's title is the caption above its list, in the language of the run.
+        w.E_Zoom_Klima->setWindowTitle(w.E_Zoom_Klima->ueberschrift->text());
+        // The climate information plane, built beside this one, if the window holds it.
+        QLabel* klimaname = ebene->window()->findChild<QLabel*>(QStringLiteral("anz_klimaregion"));
         bd.folgen([=, &k, &p] {
             for (std::size_t i = 0; i < w.Option.size(); ++i) {
                 const QSignalBlocker still(w.Option[i]);
@@ -219,6 +323,36 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
                 x->setVisible(deutschland);
             }
             w.Klimaregionwahl2->setVisible(k.sichtbar == 2 || k.sichtbar == 3);
+            w.Picture2->setVisible(k.sichtbar == 2);
+            for (QWidget* x : std::initializer_list<QWidget*>{w.picture3f, w.HScroll1, grafik}) {
+                x->setVisible(k.sichtbar == 3);
+            }
+            if (k.sichtbar == 2) {
+                w.Picture2->punkte_setzen(
+                    kartenpunkte(k.listen.Europa, k.Klimaregionwahl2.ListIndex));
+            } else if (k.sichtbar == 3) {
+                w.Picture3->punkte_setzen(
+                    kartenpunkte(k.listen.Welt, k.Klimaregionwahl2.ListIndex));
+                const QSignalBlocker still(w.HScroll1);
+                w.HScroll1->setValue(k.HScroll1);
+                w.Picture3->move(-k.HScroll1 / TWIPS_JE_PIXEL, 0);
+            }
+            // wetter_laden names the station on the climate information plane after the
+            // recalculation, so after that plane's own refresh.
+            if (klimaname != nullptr) {
+                klimaname->setText(QString::fromStdString(p.Klimainfo.Klimaname));
+            }
+            // The year values of the station read last; none before the first read.
+            const Klimakennwerte& info = p.Klimainfo;
+            const bool jahreswerte = info.MaxMonat >= 1 && info.MaxMonat <= 12;
+            const char dez = p.Sprache == "e" ? '.' : ',';
+            auto wert = [&](float v) {
+                return jahreswerte ? QString::fromStdString(format_muster(v, "0.0", dez))
+                                   : QString();
+            };
+            w.anz_MittelJahrTemp->setText(wert(info.MittelJahrTemp));
+            w.anz_MinMonatTemp->setText(wert(info.MinMonatTemp));
+            w.anz_MaxMonatTemp->setText(wert(info.MaxMonatTemp));
             {
                 const QSignalBlocker still(w.Klimaregionwahl);
                 zeilen_setzen(*w.Klimaregionwahl, k.Klimaregionwahl);

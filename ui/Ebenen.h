@@ -16,6 +16,9 @@
 
 class QFrame;
 class QLabel;
+class QScrollBar;
+class Stationskarte;
+class ZoomKlimaFenster;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -141,6 +144,19 @@ struct KlimawahlFelder {
     QPushButton* PLZsuchen = nullptr;
     QLabel* Label2 = nullptr;                    // the hover label over the map
     QTimer *Timer1 = nullptr, *Timer2 = nullptr; // shows it, then hides it
+    // The Europe and the world map with their dots; the world map scrolls inside picture3f by
+    // HScroll1 (twips), and Image1 opens the enlarged world map E_Zoom_Klima.
+    Stationskarte *Picture2 = nullptr, *Picture3 = nullptr;
+    QFrame* picture3f = nullptr;
+    QScrollBar* HScroll1 = nullptr;
+    QLabel* Image1 = nullptr;
+    ZoomKlimaFenster* E_Zoom_Klima = nullptr;
+    // The hover label of both station maps, with the timers that show and hide it.
+    QLabel* MausRegion = nullptr;
+    QTimer *MausTimer1 = nullptr, *MausTimer2 = nullptr;
+    // The climate's year mean and month extremes, and the captions of the extremes.
+    QLabel *anz_MittelJahrTemp = nullptr, *anz_MinMonatTemp = nullptr, *anz_MaxMonatTemp = nullptr,
+           *anz_MinMonatText = nullptr, *anz_MaxMonatText = nullptr;
 };
 KlimawahlFelder klimawahl_bauen(QWidget& ebene, E_Klima& k, Projekt& p, Dialogs& d,
                                 const std::string& grafiken, Ebenenbau& bau);

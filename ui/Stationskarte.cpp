@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Stationskarte.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+constexpr int RADIUS = 2;
+
+QRgb rgb(int32_t farbe) {
+    return qRgb(farbe & 0xff, (farbe >> 8) & 0xff, (farbe >> 16) & 0xff);
+}
+
+} // namespace
+
+Stationskarte::Stationskarte(QWidget* eltern, const std::string& bild, int breite, int hoehe,
+                             double faktor)
+    : QWidget(eltern) {
+    QImage roh(QString::fromStdString(bild));
+    if (roh.isNull()) {
+        roh = QImage(breite, hoehe, QImage::Format_RGB32);
+        roh.fill(Qt::white);
+    }
+    const QSize groesse(static_cast<int>(std::lround(roh.width() * faktor)),
+                        static_cast<int>(std::lround(roh.height() * faktor)));
+    grund_ = roh.scaled(groesse, Qt::IgnoreAspectRatio, Qt::FastTransformation)
+                 .convertToFormat(QImage::Format_RGB32);
+    bild_ = grund_;
+    setFixedSize(groesse);
+    setMouseTracking(true);
+}
+
+void Stationskarte::punkte_setzen(const std::vector<Kartenpunkt>& punkte) {
+    bild_ = grund_;
+    for (const Kartenpunkt& k : punkte) {
+        const int cx = static_cast<int>(std::lround(k.x));
+        const int cy = static_cast<int>(std::lround(k.y));
+        for (int dy = -RADIUS; dy <= RADIUS; ++dy) {
+            for (int dx = -RADIUS; dx <= RADIUS; ++dx) {
+                if (dx * dx + dy * dy <= RADIUS * RADIUS && bild_.valid(cx + dx, cy + dy)) {
+                    bild_.setPixel(cx + dx, cy + dy, rgb(k.farbe));
+                }
+            }
+        }
+    }
+    update();
+}
+
+int32_t Stationskarte::farbe(int x, int y) const {
+    if (!bild_.valid(x, y)) {
+        return -1;
+    }
+    const QRgb c = bild_.pixel(x, y);
+    return qRed(c) | qGreen(c) << 8 | qBlue(c) << 16;
+}
+
+void Stationskarte::paintEvent(QPaintEvent*) {
+    QPainter maler(this);
+    maler.drawImage(0, 0, bild_);
+}
+
+void Stationskarte::mouseMoveEvent(QMouseEvent* e) {
+    const QPoint p = e->position().toPoint();
+    if (bewegung) {
+        bewegung(farbe(p.x(), p.y()), p.x(), p.y());
+    }
+    QWidget::mouseMoveEvent(e);
+}
+
+void Stationskarte::mouseReleaseEvent(QMouseEvent* e) {
+    const QPoint p = e->position().toPoint();
+    if (loslassen) {
+        loslassen(farbe(p.x(), p.y()), p.x(), p.y());
+    }
+    QWidget::mouseReleaseEvent(e);
+}
+
+Schwebetext Schwebetext::bauen(QWidget* karte, const char* name) {
+    Schwebetext s;
+    s.label = new QLabel(karte);
+    s.label->setObjectName(QString::fromUtf8(name));
+    s.label->setFrameStyle(QFrame::Box | QFrame::Plain);
+    s.label->setAutoFillBackground(true);
+    s.label->hide();
+    s.Timer1 = new QTimer(karte);
+    s.Timer1->setObjectName(QStringLiteral("Timer1"));
+    s.Timer1->setInterval(1000);
+    s.Timer2 = new QTimer(karte);
+    s.Timer2->setObjectName(QStringLiteral("Timer2"));
+    s.Timer2->setInterval(3000);
+    QObject::connect(s.Timer1, &QTimer::timeout, karte, [s] {
+        s.label->show();
+        s.label->raise();
+        s.Timer1->stop();
+        s.Timer2->start();
+    });
+    QObject::connect(s.Timer2, &QTimer::timeout, karte, [s] {
+        s.label->hide();
+        s.Timer2->stop();
+    });
+    return s;
+}
+
+void Schwebetext::bewegt(int x, int y, const std::string& text) const {
+    label->move(x, y + 20);
+    label->hide();
+    Timer1->start();
+    if (text.empty()) {
+        Timer1->stop();
+        label->clear();
+        return;
+    }
+    label->setText(QString::fromStdString(text));
+    label->adjustSize();
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "climate/stationskarten.h"
+
+#include <QLabel>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+// A map picture with its station dots: the picture of the Europe or the world map, scaled by a
+// factor, with each dot a filled disc of radius 2 in its exact colour, so that the colour under
+// the pointer tells a dot from the land. Moves and releases of the mouse are handed on with the
+// colour under the pointer.
+class Stationskarte : public QWidget {
+public:
+    // `bild` is the path of the BMP; an unreadable picture leaves a white map of `breite` x
+    // `hoehe` pixels before scaling.
+    Stationskarte(QWidget* eltern, const std::string& bild, int breite, int hoehe,
+                  double faktor = 1.0);
+
+    // Paints the picture anew with these dots, the last one on top.
+    void punkte_setzen(const std::vector<Kartenpunkt>& punkte);
+    // The colour at (x, y) in the encoding with red in the low byte; -1 outside.
+    int32_t farbe(int x, int y) const;
+    const QImage& bild() const { return bild_; }
+
+    std::function<void(int32_t farbe, int x, int y)> bewegung, loslassen;
+
+protected:
+    void paintEvent(QPaintEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+
+private:
+    QImage grund_, bild_;
+};
+
+// The hover label of a map with its two timers: Timer1 shows the label a second after the
+// pointer came to rest on a named place, Timer2 hides it three seconds later.
+struct Schwebetext {
+    QLabel* label = nullptr;
+    QTimer *Timer1 = nullptr, *Timer2 = nullptr;
+
+    // The label and its timers on `karte`, the label named `name`.
+    static Schwebetext bauen(QWidget* karte, const char* name);
+    // The pointer at (x, y): the label goes 20 pixels below it, hidden, and Timer1 restarts;
+    // with an empty text Timer1 stops and nothing will show.
+    void bewegt(int x, int y, const std::string& text) const;
+};
