@@ -147,9 +147,7 @@ void Desktopprogramm::fenster_bauen() {
             unuebersetzt += fenster_uebersetzen(*haupt->eingabe[i], namen[i]);
         }
         unuebersetzt += fenster_uebersetzen(*haupt->eingabe[Hauptfenster::Energie], "E_Energie");
-        // The climate table's rows of the station data and the world window find no control
-        // until those parts of the plane are built.
-        fenster_uebersetzen(*haupt->eingabe[Hauptfenster::Klima], "E_Klima");
+        unuebersetzt += fenster_uebersetzen(*haupt->eingabe[Hauptfenster::Klima], "E_Klima");
         const std::array<const char*, 5> ausgaben{"A_Uebersicht", "A_Klima", "A_Heizen",
                                                   "A_Kuehlen", "A_Sankey"};
         for (std::size_t i = 0; i < ausgaben.size(); ++i) {
