@@ -4,9 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <sys/wait.h>
 
 namespace {
@@ -16,21 +14,14 @@ struct Lauf {
     std::string aus, fehler;
 };
 
-std::string lesen(const std::filesystem::path& pfad) {
-    std::ifstream ein(pfad, std::ios::binary);
-    std::stringstream s;
-    s << ein.rdbuf();
-    return s.str();
-}
-
 // Runs the command line tool in `ordner` with the synthetic station as its climate.
 Lauf cli(const TempOrdner& ordner, const std::string& argumente) {
     const std::string befehl = "cd '" + ordner.pfad().string() + "' && " + VELMARIS_CLI + " " +
                                argumente + " --klima '" + ordner.pfad().string() +
                                "' >aus.txt 2>fehler.txt";
     const int roh = std::system(befehl.c_str());
-    return {WIFEXITED(roh) ? WEXITSTATUS(roh) : -1, lesen(ordner.pfad() / "aus.txt"),
-            lesen(ordner.pfad() / "fehler.txt")};
+    return {WIFEXITED(roh) ? WEXITSTATUS(roh) : -1, datei_lesen(ordner.pfad() / "aus.txt"),
+            datei_lesen(ordner.pfad() / "fehler.txt")};
 }
 
 class CliProjekt : public ::testing::Test {
@@ -45,7 +36,7 @@ protected:
 
 TEST_F(CliProjekt, SavedNewProjectCalculatesAsTheNewProject) {
     ASSERT_EQ(cli(ordner, "save neu.vel").status, 0);
-    const std::string datei = lesen(ordner.pfad() / "neu.vel");
+    const std::string datei = datei_lesen(ordner.pfad() / "neu.vel");
     EXPECT_EQ(datei.rfind("Velmaris Version 3.2\r\n 10\r\n 10\r\n 5.2\r\n", 0), 0u);
     const Lauf projekt = cli(ordner, "calc neu.vel");
     ASSERT_EQ(projekt.status, 0) << projekt.fehler;
@@ -74,7 +65,7 @@ TEST_F(CliProjekt, WrongVersionAndReadFaults) {
 
     // A value that its scroll field cannot show: 0.5 m is below the length's range.
     ASSERT_EQ(cli(ordner, "save neu.vel").status, 0);
-    std::string text = lesen(ordner.pfad() / "neu.vel");
+    std::string text = datei_lesen(ordner.pfad() / "neu.vel");
     text.replace(text.find(" 10\r\n"), 5, " .5\r\n");
     ordner.schreiben("klein.vel", text);
     l = cli(ordner, "calc klein.vel");
@@ -84,7 +75,7 @@ TEST_F(CliProjekt, WrongVersionAndReadFaults) {
 
 TEST_F(CliProjekt, Version30IsWrittenAs32) {
     ASSERT_EQ(cli(ordner, "save neu.vel").status, 0);
-    std::string text = lesen(ordner.pfad() / "neu.vel");
+    std::string text = datei_lesen(ordner.pfad() / "neu.vel");
     text.replace(text.find("3.2"), 3, "3.0");
     // Drop lines 68 and 69.
     for (int i = 0; i < 2; ++i) {
@@ -92,7 +83,7 @@ TEST_F(CliProjekt, Version30IsWrittenAs32) {
     }
     ordner.schreiben("alt.vel", text);
     ASSERT_EQ(cli(ordner, "save aus.vel --from alt.vel").status, 0);
-    const std::string neu = lesen(ordner.pfad() / "aus.vel");
+    const std::string neu = datei_lesen(ordner.pfad() / "aus.vel");
     EXPECT_EQ(neu.rfind("Velmaris Version 3.2\r\n", 0), 0u);
     EXPECT_EQ(neu.substr(neu.size() - 11), "\r\n 0\r\n .1\r\n");
     EXPECT_EQ(std::count(neu.begin(), neu.end(), '\n'), 69);

@@ -6,18 +6,9 @@
 #include "tests/project/SkriptDialogs.h"
 
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace {
-
-std::string inhalt(const std::string& pfad) {
-    std::ifstream ein(pfad, std::ios::binary);
-    std::stringstream s;
-    s << ein.rdbuf();
-    return s.str();
-}
 
 struct Sprachumgebung {
     Sprachumgebung() : p(leeres_projekt()) { p->KlimaOrdner = ordner.pfad().string(); }
@@ -67,7 +58,7 @@ TEST(Sprache, LanguageFileAndTheChoiceAtStart) {
     }));
     EXPECT_EQ(gefragt, 1);
     EXPECT_EQ(u.p->Sprache, "e");
-    EXPECT_EQ(inhalt(sprachdatei(*u.p)), "e\r\n");
+    EXPECT_EQ(datei_lesen(sprachdatei(*u.p)), "e\r\n");
     EXPECT_EQ(u.p->Monat[1].Name, "January");
 
     // The file is read with list input.
@@ -82,7 +73,7 @@ TEST(Sprache, LanguageFileAndTheChoiceAtStart) {
     // A command line of "e" speaks English for this run and leaves the file.
     EXPECT_TRUE(sprache_beim_start(*u.p, "e", nullptr));
     EXPECT_EQ(u.p->Sprache, "e");
-    EXPECT_EQ(inhalt(sprachdatei(*u.p)), "  d,x\r\n");
+    EXPECT_EQ(datei_lesen(sprachdatei(*u.p)), "  d,x\r\n");
 
     // The choice closed without a letter: no language and no file.
     Sprachumgebung leer;
@@ -109,7 +100,7 @@ TEST(Sprache, MenuChoiceTakesEffectAtTheNextStart) {
     EXPECT_FALSE(menue.mnuSpracheDeutsch);
     EXPECT_EQ(u.p->Sprache, "d");
     EXPECT_EQ(u.p->Monat[1].Name, "Januar");
-    EXPECT_EQ(inhalt(sprachdatei(*u.p)), "e\r\n");
+    EXPECT_EQ(datei_lesen(sprachdatei(*u.p)), "e\r\n");
     u.p->Sprache = "e";
     EXPECT_TRUE(Sprachmenue(*u.p).mnuSpracheEnglisch);
 }

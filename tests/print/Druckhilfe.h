@@ -7,6 +7,7 @@
 #include "planes/Eingabeflaechen.h"
 #include "tests/support/Testprojekt.h"
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -17,3 +18,7 @@ struct Druckprojekt {
     std::unique_ptr<Projekt> p;
     std::unique_ptr<Eingabeflaechen> e;
 };
+
+// The pages of a PDF file: its page objects "/Type /Page" (not the tree "/Type /Pages"); -1 for a
+// file that is no PDF.
+int pdf_seiten(const std::filesystem::path& pfad);

@@ -1,32 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // velmaris-cli drucken: the printed pages of a project file as a PDF, and its exit statuses.
+#include "tests/print/Druckhilfe.h"
 #include "tests/support/Befehlszeile.h"
 #include "tests/support/Testprojekt.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 namespace {
-
-// The pages of a PDF file: its page objects "/Type /Page" (not the tree "/Type /Pages").
-int pdf_seiten(const std::filesystem::path& pfad) {
-    std::ifstream ein(pfad, std::ios::binary);
-    std::stringstream s;
-    s << ein.rdbuf();
-    const std::string inhalt = s.str();
-    if (inhalt.rfind("%PDF-", 0) != 0) {
-        return -1;
-    }
-    int n = 0;
-    const std::string marke = "/Type /Page";
-    for (std::size_t i = inhalt.find(marke); i != std::string::npos;
-         i = inhalt.find(marke, i + 1)) {
-        n += inhalt.compare(i, marke.size() + 1, marke + "s") != 0 ? 1 : 0;
-    }
-    return n;
-}
 
 // A project file of the new project on the synthetic station of its own klima folder.
 struct Druckordner {

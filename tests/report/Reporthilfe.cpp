@@ -20,13 +20,6 @@ std::string Reportprogramm::report(int seite) const {
     return report_der_sprache(quelle(), static_cast<int16_t>(seite));
 }
 
-std::string datei_lesen(const std::string& pfad) {
-    std::ifstream ein(pfad, std::ios::binary);
-    std::stringstream s;
-    s << ein.rdbuf();
-    return s.str();
-}
-
 bool golden_vergleichen(const std::string& name, const std::string& jetzt) {
     const std::string pfad = std::string(VELMARIS_SOURCE_DIR) + "/tests/report/golden/" + name;
     if (std::getenv("VELMARIS_GOLDEN_UPDATE") != nullptr) {

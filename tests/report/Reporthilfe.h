@@ -19,9 +19,6 @@ struct Reportprogramm {
     std::string report(int seite) const;
 };
 
-// The text of a file, byte for byte.
-std::string datei_lesen(const std::string& pfad);
-
 // Compares `jetzt` with the golden file tests/report/golden/`name`; VELMARIS_GOLDEN_UPDATE=1
 // rewrites it. Returns false when the file was rewritten.
 bool golden_vergleichen(const std::string& name, const std::string& jetzt);

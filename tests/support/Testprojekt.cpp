@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <fstream>
+#include <sstream>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -50,4 +51,11 @@ std::unique_ptr<Projekt> neues_testprojekt(const TempOrdner& ordner,
     p->FormLoadGuard = 0;
     alles_berechnen(*p);
     return p;
+}
+
+std::string datei_lesen(const std::filesystem::path& pfad) {
+    std::ifstream ein(pfad, std::ios::binary);
+    std::stringstream s;
+    s << ein.rdbuf();
+    return s.str();
 }

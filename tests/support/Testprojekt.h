@@ -24,6 +24,9 @@ private:
     std::filesystem::path pfad_;
 };
 
+// The text of a file, byte for byte; empty when it cannot be read.
+std::string datei_lesen(const std::filesystem::path& pfad);
+
 // A project record on the heap (the hourly tables make it too large for a test's stack).
 std::unique_ptr<Projekt> leeres_projekt();
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/ui/Uitesthilfe.h"
 
+#include "ui/Desktopprogramm.h"
+
 #include <QPixmap>
 #include <QWidget>
 #include <filesystem>
@@ -17,4 +19,12 @@ void bild_speichern(QWidget& fenster, const QString& name) {
     if (!ordner.isEmpty()) {
         fenster.grab().save(ordner + QLatin1Char('/') + name + QStringLiteral(".png"));
     }
+}
+
+std::unique_ptr<Desktopprogramm> programm_starten(Dialogs* dialoge, const TempOrdner& klima,
+                                                  const char* sprache) {
+    auto programm = std::make_unique<Desktopprogramm>(dialoge, [] { return std::string(); });
+    programm->klimaordner = klima.pfad().string();
+    programm->starten(sprache);
+    return programm;
 }

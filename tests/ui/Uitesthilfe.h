@@ -6,6 +6,8 @@
 #include <QString>
 #include <memory>
 
+class Desktopprogramm;
+class Dialogs;
 class QWidget;
 
 // A copy of the delivered klima folder, so that a test may write its language file without
@@ -15,3 +17,8 @@ std::unique_ptr<TempOrdner> klima_kopie();
 // Saves a picture of the widget as NAME.png in the folder named by VELMARIS_BILDER, for a look by
 // eye; does nothing when that variable is empty.
 void bild_speichern(QWidget& fenster, const QString& name);
+
+// The desktop program started in `sprache` on the station folder `klima`, its message boxes and
+// file dialogs answered by `dialoge`.
+std::unique_ptr<Desktopprogramm> programm_starten(Dialogs* dialoge, const TempOrdner& klima,
+                                                  const char* sprache);

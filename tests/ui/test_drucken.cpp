@@ -15,24 +15,7 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include <fstream>
-#include <sstream>
-
 namespace {
-
-int pdf_seiten(const std::filesystem::path& pfad) {
-    std::ifstream ein(pfad, std::ios::binary);
-    std::stringstream s;
-    s << ein.rdbuf();
-    const std::string inhalt = s.str();
-    int n = 0;
-    const std::string marke = "/Type /Page";
-    for (std::size_t i = inhalt.find(marke); i != std::string::npos;
-         i = inhalt.find(marke, i + 1)) {
-        n += inhalt.compare(i, marke.size() + 1, marke + "s") != 0 ? 1 : 0;
-    }
-    return n;
-}
 
 QString titel(QObject* o) {
     if (auto* g = qobject_cast<QGroupBox*>(o)) {

@@ -29,9 +29,7 @@ class TestEnergieebene : public QObject {
 
     void starten(const char* sprache) {
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
-        programm->klimaordner = klima->pfad().string();
-        programm->starten(sprache);
+        programm = programm_starten(dialoge.get(), *klima, sprache);
         QVERIFY(programm->haupt->isVisible());
         QTest::mouseClick(programm->haupt->eingabe_knopf[Hauptfenster::Energie], Qt::LeftButton);
         QVERIFY(ebene()->isVisible());

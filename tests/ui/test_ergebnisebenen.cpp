@@ -63,9 +63,7 @@ class TestErgebnisebenen : public QObject {
 
     void starten(const char* sprache) {
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
-        programm->klimaordner = klima->pfad().string();
-        programm->starten(sprache);
+        programm = programm_starten(dialoge.get(), *klima, sprache);
         QVERIFY(programm->haupt->isVisible());
     }
     // The building of the chart tests that needs cooling in summer: a low overheating limit and

@@ -85,9 +85,7 @@ class TestKlimaebene : public QObject {
     // random source that makes the hover search find every dot.
     void starten(const char* sprache) {
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
-        programm->klimaordner = klima->pfad().string();
-        programm->starten(sprache);
+        programm = programm_starten(dialoge.get(), *klima, sprache);
         programm->haupt->eingabe_zeigen(Hauptfenster::Klima);
         programm->haupt->ausgabe_zeigen(Hauptfenster::KlimaGebaeude);
         E_Klima& k = programm->ebenen->klima;
@@ -107,9 +105,7 @@ private slots:
 
     void fuenfstellige_postleitzahl_waehlt_die_region_ihres_praefixes() {
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
-        programm->klimaordner = klima->pfad().string();
-        programm->starten("d");
+        programm = programm_starten(dialoge.get(), *klima, "d");
         programm->haupt->eingabe_zeigen(Hauptfenster::Klima);
         const KlimawahlFelder& f = programm->klimawahl_felder;
         waehlen(f.Option[0]);
@@ -171,9 +167,7 @@ private slots:
 
     void englisch_und_europa() {
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
-        programm->klimaordner = klima->pfad().string();
-        programm->starten("e");
+        programm = programm_starten(dialoge.get(), *klima, "e");
         programm->haupt->eingabe_zeigen(Hauptfenster::Klima);
         const KlimawahlFelder& f = programm->klimawahl_felder;
         QCOMPARE(f.Option[0]->text(), QStringLiteral("Germany"));

@@ -90,9 +90,7 @@ class TestKlimaimport : public QObject {
     KlimaimportFenster& oeffnen(const char* sprache) {
         programm.reset();
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
-        programm->klimaordner = klima->pfad().string();
-        programm->starten(sprache);
+        programm = programm_starten(dialoge.get(), *klima, sprache);
         auto skript = std::make_unique<Skriptnutzer>();
         nutzer = skript.get();
         programm->import_dialoge = std::move(skript);
@@ -438,9 +436,7 @@ private slots:
         // After a restart the lists come from the folder and hold the new station.
         programm.reset();
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
-        programm->klimaordner = klima->pfad().string();
-        programm->starten("d");
+        programm = programm_starten(dialoge.get(), *klima, "d");
         const Stationslisten& l = programm->ebenen->klima.listen;
         const int i = l.Welt.suchen("bremerhaven_neu.met");
         QVERIFY(i >= 0);

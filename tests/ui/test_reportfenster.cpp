@@ -21,19 +21,7 @@
 #include <QTimer>
 #include <QtTest>
 
-#include <fstream>
-#include <sstream>
-
-namespace {
-
-std::string lesen(const std::filesystem::path& pfad) {
-    std::ifstream ein(pfad, std::ios::binary);
-    std::stringstream s;
-    s << ein.rdbuf();
-    return s.str();
-}
-
-} // namespace
+namespace {} // namespace
 
 class TestReportfenster : public QObject {
     Q_OBJECT
@@ -45,9 +33,7 @@ class TestReportfenster : public QObject {
 
     void starten(const char* sprache) {
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [] { return std::string(); });
-        programm->klimaordner = klima->pfad().string();
-        programm->starten(sprache);
+        programm = programm_starten(dialoge.get(), *klima, sprache);
         QVERIFY(programm->haupt->isVisible());
     }
 
@@ -121,7 +107,7 @@ private slots:
             QCOMPARE(filterindex, 1);
             const std::string alle = report_schreiben(quelle(), 0);
             QVERIFY(report_speichern(alle, (ablage.pfad() / "soll.rtf").string()));
-            QCOMPARE(lesen(ziel), lesen(ablage.pfad() / "soll.rtf"));
+            QCOMPARE(datei_lesen(ziel), datei_lesen(ablage.pfad() / "soll.rtf"));
             QCOMPARE(f.report_text, alle);
 
             // A failed write leaves the screen as it was.
@@ -157,7 +143,7 @@ private slots:
             QCOMPARE(filter, std::string("Textdatei (*.txt)|*.txt"));
             QVERIFY(temperaturverlauf_exportieren(programm->p, ',',
                                                   (ablage.pfad() / "soll.txt").string()));
-            QCOMPARE(lesen(ziel), lesen(ablage.pfad() / "soll.txt"));
+            QCOMPARE(datei_lesen(ziel), datei_lesen(ablage.pfad() / "soll.txt"));
         });
     }
 
