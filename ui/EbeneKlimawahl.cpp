@@ -142,27 +142,10 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
     f.Picture1 = karte;
     karte->setMouseTracking(true);
     // The hover label comes up a second after the pointer rests and goes again after three.
-    f.Label2 = new QLabel(karte);
-    f.Label2->setObjectName(QStringLiteral("Label2"));
-    f.Label2->setFrameStyle(QFrame::Box | QFrame::Plain);
-    f.Label2->setAutoFillBackground(true);
-    f.Label2->hide();
-    f.Timer1 = new QTimer(karte);
-    f.Timer1->setObjectName(QStringLiteral("Timer1"));
-    f.Timer1->setInterval(1000);
-    f.Timer2 = new QTimer(karte);
-    f.Timer2->setObjectName(QStringLiteral("Timer2"));
-    f.Timer2->setInterval(3000);
-    QObject::connect(f.Timer1, &QTimer::timeout, karte, [f] {
-        f.Label2->show();
-        f.Label2->raise();
-        f.Timer1->stop();
-        f.Timer2->start();
-    });
-    QObject::connect(f.Timer2, &QTimer::timeout, karte, [f] {
-        f.Label2->hide();
-        f.Timer2->stop();
-    });
+    const Schwebetext schwebe = Schwebetext::bauen(karte, "Label2");
+    f.Label2 = schwebe.label;
+    f.Timer1 = schwebe.Timer1;
+    f.Timer2 = schwebe.Timer2;
     QLabel* region = text(&e, nullptr, "Klimaregion", 8, 348);
     region->setProperty("zeile", 4);
     f.Klimaregionwahl = liste(&e, 8, 364, 336);
@@ -243,10 +226,7 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
                                  bd.ausfuehren([&k, &p, &d, h, an] { h(k, p, d, an); });
                              });
         }
-        karte->bewegung = [karte_von, w](int x, int y) {
-            w.Label2->move(x, y + 20);
-            w.Label2->hide();
-            w.Timer1->start();
+        karte->bewegung = [karte_von, schwebe](int x, int y) {
             // A map picture that cannot be read names nothing here; the press reports it.
             std::string text;
             try {
@@ -254,12 +234,7 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
             } catch (const FatalError&) {
                 text.clear();
             }
-            if (text.empty()) {
-                w.Timer1->stop();
-                return;
-            }
-            w.Label2->setText(QString::fromStdString(text));
-            w.Label2->adjustSize();
+            schwebe.bewegt(x, y, text);
         };
         karte->klick = [&bd, &k, &p, karte_von](int x, int y) {
             bd.ausfuehren(
