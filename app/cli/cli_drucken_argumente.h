@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/cli/cli_dateiargumente.h"
 #include "print/Ausdrucken.h"
 
 #include <ostream>
@@ -8,11 +9,7 @@
 #include <vector>
 
 // The arguments of drucken: PROJECT.vel OUT.pdf [--seiten 1,3,5] [--sprache d|e] [--klima DIR].
-struct Druckargumente {
-    std::string projekt;
-    std::string ziel;
-    std::string sprache; // "d", "e", or empty for the language file
-    std::string klima;   // station folder, empty for the delivered one
+struct Druckargumente : Dateiargumente {
     Druckauswahl auswahl{true, true, true, true, true, true, true};
 };
 
