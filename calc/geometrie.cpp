@@ -58,10 +58,11 @@ void geometrie_berechnen(Projekt& p) {
         p.f_dach_flach = 0;
     }
 
-    // The lower floor counts in full; a wall to a heated neighbour does not count.
-    const double huelle = static_cast<double>(p.f_sfa) + p.f_nfa + p.f_wfa + p.f_ofa + p.f_gd +
-                          p.f_dach_n + p.f_dach_s + p.f_dach_o + p.f_dach_w + p.f_giebel_n +
-                          p.f_giebel_s + p.f_giebel_o + p.f_giebel_w + p.f_dach_flach;
+    // The lower floor counts in full; a wall to a heated neighbour does not count. Like every
+    // assignment of the geometry, the envelope is held as a float.
+    const float huelle = f32(static_cast<double>(p.f_sfa) + p.f_nfa + p.f_wfa + p.f_ofa + p.f_gd +
+                             p.f_dach_n + p.f_dach_s + p.f_dach_o + p.f_dach_w + p.f_giebel_n +
+                             p.f_giebel_s + p.f_giebel_o + p.f_giebel_w + p.f_dach_flach);
 
     p.v_geb = f32(static_cast<double>(p.f_gd) * h);
     p.f_nutz = f32(p.f_gd * 0.8 * p.ag);
@@ -82,12 +83,14 @@ void geometrie_berechnen(Projekt& p) {
         p.v_geb = 1;
     }
     p.v_luft = f32(p.v_geb * 0.8);
-    p.AV = f32(huelle / p.v_geb);
+    p.AV = f32(static_cast<double>(huelle) / p.v_geb);
 
     if (b + l == 0) {
         throw FatalError("Division by zero: the floor dimension needs a length and width above 0.");
     }
-    const double B = p.f_gd / (b + l);
+    // B is held as a float before it meets the column boundaries: l = 13.2, b = 41.25 gives
+    // 10.00000004 in double but 10 as a float, the middle column.
+    const float B = f32(p.f_gd / (b + l));
     if (p.ugd_typ >= 0 && p.ugd_typ <= 4) {
         const int spalte = (B < 5) ? 0 : (B > 10 ? 2 : 1);
         p.Fx_ugd = FX_UGD[p.ugd_typ][spalte];

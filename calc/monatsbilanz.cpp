@@ -119,8 +119,9 @@ void monatsbilanz(Projekt& p) {
                 p.f_sf * M.Strahlung_S / 3.6);
         M.Qs_brutto = f32(static_cast<double>(S_N) + S_W + S_O + S_S);
 
-        // A month without loss has no usable gains and no heat demand.
-        const double L = static_cast<double>(M.Qv) + M.Qt;
+        // A month without loss has no usable gains and no heat demand. The loss is held as a
+        // float before it divides the gains.
+        const float L = f32(static_cast<double>(M.Qv) + M.Qt);
         if (L <= 0) {
             M.Nutzgrad = 0;
         } else {

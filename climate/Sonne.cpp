@@ -41,8 +41,10 @@ double stichzeit(int h, const Sonnenaufgang& s) {
 
 namespace {
 
-float deklination(int n) {
-    return static_cast<float>(std::sin((n + 284) / 365.0 * 6.2832) * 23.45 * GRAD);
+// Declination and hour angle in full precision. The horizontal factor takes them as they are;
+// the plane factor rounds both to float.
+double deklination(int n) {
+    return std::sin((n + 284) / 365.0 * 6.2832) * 23.45 * GRAD;
 }
 
 // Equation of time in minutes, with B from the 16-bit day difference n - 81.
@@ -52,8 +54,8 @@ double zeitgleichung(int n) {
     return 9.87 * std::sin(2 * B) - 7.53 * std::cos(B) - 1.5 * std::sin(B);
 }
 
-float stundenwinkel(double T) {
-    return static_cast<float>((T * 15 - 180) * GRAD);
+double stundenwinkel(double T) {
+    return (T * 15 - 180) * GRAD;
 }
 
 } // namespace
@@ -73,11 +75,11 @@ float direktfaktor_horizontal(int n, float L, double t, float Breite) {
 }
 
 Sonnenstunde sonnenstunde(int n, float L, int h) {
-    const double delta = deklination(n);
+    const float delta = static_cast<float>(deklination(n));
     const double E = zeitgleichung(n);
     // The integer hour: the plane factor is sampled at the end of the hour.
     const double T = h + (-L * 4.0 + E) / 60;
-    const double w = stundenwinkel(T);
+    const float w = static_cast<float>(stundenwinkel(T));
     return {std::sin(delta), std::cos(delta), std::sin(w), std::cos(w)};
 }
 

@@ -127,6 +127,27 @@ TEST(Geometrie, FloorDimensionFiveAndTenTakeTheMiddleColumn) {
     }
 }
 
+TEST(Geometrie, FloorDimensionMeetsTheBoundariesAsAFloat) {
+    // f_gd / (b + l) lies a hair off 5 or 10 in double but is 5 or 10 as a float, and the float
+    // decides the column: the middle one.
+    struct Fall {
+        float l, b;
+        double B_double;
+    };
+    const Fall faelle[] = {{5.8f, 36.25f, 4.99999998}, {13.2f, 41.25f, 10.00000004}};
+    for (const Fall& f : faelle) {
+        auto p = neues_projekt_ohne_klima();
+        p->l = f.l;
+        p->b = f.b;
+        p->ugd_typ = 0;
+        rechnen(*p);
+        const double B = static_cast<double>(p->f_gd) / (static_cast<double>(f.b) + f.l);
+        EXPECT_NEAR(B, f.B_double, 1e-8);
+        EXPECT_NE(B, static_cast<float>(B));
+        EXPECT_FLOAT_EQ(p->Fx_ugd, 0.5f) << f.l << " x " << f.b;
+    }
+}
+
 TEST(Geometrie, LowerFloorKindOutsideTheTableKeepsTheFactor) {
     auto p = neues_projekt_ohne_klima();
     rechnen(*p);

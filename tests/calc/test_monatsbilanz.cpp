@@ -66,6 +66,36 @@ TEST(Monatsbilanz, JanuaryAtZeroDegreesWorkedByHand) {
     EXPECT_NEAR(p->qtr_Dach, 30 * 20 * 365 * 0.024, 0.05);
 }
 
+TEST(Monatsbilanz, TheLossIsHeldAsAFloatBeforeItDividesTheGains) {
+    // gamma = gains / L with L = Qv + Qt rounded to a float first. In the months where the
+    // rounding of L moves gamma, a double L would give another utilisation factor.
+    TempOrdner ordner;
+    auto p = neues_testprojekt(ordner);
+    int entschieden = 0;
+    for (int variante = 0; variante < 3; ++variante) {
+        p->l = 50 - 7.3f * variante;
+        p->b = 30;
+        p->h = 30;
+        p->ag = 10;
+        p->ugd_typ = 4;
+        alles_berechnen(*p);
+        for (int m = 1; m <= 12; ++m) {
+            const Monatswerte& M = p->Monat[m];
+            const double gewinne = static_cast<double>(M.Qs_brutto) + M.Qi_brutto;
+            const float L = static_cast<float>(static_cast<double>(M.Qv) + M.Qt);
+            if (L <= 0) {
+                continue;
+            }
+            const float mit_float = nutzungsgrad(*p, static_cast<float>(gewinne / L));
+            const float mit_double =
+                nutzungsgrad(*p, static_cast<float>(gewinne / (static_cast<double>(M.Qv) + M.Qt)));
+            EXPECT_EQ(M.Nutzgrad, mit_float) << "month " << m << ", variant " << variante;
+            entschieden += mit_float != mit_double;
+        }
+    }
+    EXPECT_GT(entschieden, 0);
+}
+
 TEST(Monatsbilanz, WarmMonthHasNoUsableGainsAndNoDemand) {
     TempOrdner ordner;
     auto p = neues_testprojekt(ordner);

@@ -49,6 +49,37 @@ TEST(Sonne, DirectFactorIsOneOverCosZenithAndZeroAtNight) {
     EXPECT_FLOAT_EQ(direktfaktor_horizontal(355, 0, 23.5, BREITE_50), 0);
 }
 
+// The horizontal factor worked through with the declination and the hour angle either in full
+// precision or rounded to float; only the plane factor rounds them.
+float direktfaktor_von_hand(int n, double t, float Breite, bool gerundet) {
+    double delta = std::sin((n + 284) / 365.0 * 6.2832) * 23.45 * 0.01745;
+    const double B = (n - 81) * 360.0 / 364 * 0.01745;
+    const double E = 9.87 * std::sin(2 * B) - 7.53 * std::cos(B) - 1.5 * std::sin(B);
+    double w = ((t + E / 60) * 15 - 180) * 0.01745;
+    if (gerundet) {
+        delta = static_cast<float>(delta);
+        w = static_cast<float>(w);
+    }
+    const double phi = Breite;
+    const double cosz =
+        std::cos(delta) * std::cos(w) * std::cos(phi) + std::sin(phi) * std::sin(delta);
+    return cosz > 0.00001 ? static_cast<float>(1 / cosz) : 0.0f;
+}
+
+TEST(Sonne, DirectFactorKeepsDeclinationAndHourAngleInFullPrecision) {
+    // Morning hours of every day, where 1 / cos z is steep: the factor is the full-precision
+    // one bit for bit, and on many of them the rounded angles would give another float.
+    int anders_gerundet = 0;
+    for (int n = 1; n <= 365; ++n) {
+        for (double t : {4.75, 5.5, 6.25, 7.5}) {
+            const float f = direktfaktor_horizontal(n, 0, t, BREITE_50);
+            ASSERT_EQ(f, direktfaktor_von_hand(n, t, BREITE_50, false)) << n << " " << t;
+            anders_gerundet += f != direktfaktor_von_hand(n, t, BREITE_50, true);
+        }
+    }
+    EXPECT_GT(anders_gerundet, 100);
+}
+
 TEST(Sonne, IncidenceFactorOfPlanes) {
     // A plane turned to face the sun gets factor 1; at cos θ = 0.5 the flat-angle loss leaves
     // (1 - 0.5^2.5) · 0.5 = 0.4116.
