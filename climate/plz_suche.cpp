@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/plz_suche.h"
 
-#include "climate/Textkanal.h"
+#include "project/Textkanal.h"
 #include "climate/klimaregionen.h"
 #include "climate/numerisch.h"
 #include "project/FatalError.h"

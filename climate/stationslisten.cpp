@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/stationslisten.h"
 
-#include "climate/Textkanal.h"
+#include "project/Textkanal.h"
 #include "climate/numerisch.h"
 #include "project/Listeneingabe.h"
 #include "project/Zahltext.h"

@@ -4,7 +4,7 @@
 // refuses with FatalError, never more.
 #include "climate/Bitmap.h"
 #include "climate/E_Klima.h"
-#include "climate/Textkanal.h"
+#include "project/Textkanal.h"
 #include "climate/plz_suche.h"
 #include "project/FatalError.h"
 

@@ -8,54 +8,31 @@
 #include <charconv>
 #include <cmath>
 
-Listeneingabe::Listeneingabe(std::string_view text) {
-    std::size_t anfang = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' || text[i] == '\n') {
-            zeilen_.push_back(text.substr(anfang, i - anfang));
-            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
-                ++i;
-            }
-            anfang = i + 1;
-        }
-    }
-    if (anfang < text.size()) {
-        zeilen_.push_back(text.substr(anfang));
-    }
-}
+Listeneingabe::Listeneingabe(std::string_view text) : kanal_(std::string(text)) {}
 
-std::string_view Listeneingabe::feld() {
-    if (static_cast<std::size_t>(zeile_) >= zeilen_.size()) {
+std::string Listeneingabe::feld() {
+    if (kanal_.ende()) {
         throw Laufzeitfehler(Laufzeitfehler::EingabeNachDateiende,
-                             "Input past end of file after line " + std::to_string(zeile_));
+                             "Input past end of file after line " +
+                                 std::to_string(kanal_.zeilennummer()));
     }
-    std::string_view z = zeilen_[static_cast<std::size_t>(zeile_++)];
-    while (!z.empty() && (z.front() == ' ' || z.front() == '\t')) {
-        z.remove_prefix(1);
-    }
-    if (!z.empty() && z.front() == '"') {
-        z.remove_prefix(1);
-        return z.substr(0, z.find('"'));
-    }
-    return z.substr(0, z.find(','));
+    return kanal_.eintrag();
 }
 
 std::string Listeneingabe::text() {
-    return std::string(feld());
+    return feld();
 }
 
 double Listeneingabe::zahl() {
-    std::string_view f = feld();
-    while (!f.empty() && (f.back() == ' ' || f.back() == '\t')) {
-        f.remove_suffix(1);
-    }
+    const std::string wert_text = feld();
+    const std::string_view f = wert_text;
     if (f.empty()) {
         return 0;
     }
     const auto fehler = [&] {
         return Laufzeitfehler(Laufzeitfehler::Typfehler, "Type mismatch in line " +
-                                                             std::to_string(zeile_) + ": \"" +
-                                                             std::string(f) + "\"");
+                                                             std::to_string(kanal_.zeilennummer()) +
+                                                             ": \"" + std::string(f) + "\"");
     };
     // Only the characters of a plain number: no "inf", "nan" or hexadecimal forms.
     std::string norm;
@@ -102,7 +79,7 @@ double Listeneingabe::zahl() {
     const auto erg = std::from_chars(norm.data(), norm.data() + norm.size(), wert);
     if (erg.ec == std::errc::result_out_of_range) {
         throw Laufzeitfehler(Laufzeitfehler::Ueberlauf,
-                             "Overflow in line " + std::to_string(zeile_));
+                             "Overflow in line " + std::to_string(kanal_.zeilennummer()));
     }
     if (erg.ec != std::errc() || erg.ptr != norm.data() + norm.size()) {
         throw fehler();
@@ -114,7 +91,7 @@ float Listeneingabe::f32() {
     const double wert = zahl();
     if (!(std::fabs(wert) <= FLT_MAX)) {
         throw Laufzeitfehler(Laufzeitfehler::Ueberlauf,
-                             "Overflow in line " + std::to_string(zeile_));
+                             "Overflow in line " + std::to_string(kanal_.zeilennummer()));
     }
     return static_cast<float>(wert);
 }
@@ -123,7 +100,7 @@ int16_t Listeneingabe::i16() {
     const double wert = std::nearbyint(zahl());
     if (!(wert >= -32768.0 && wert <= 32767.0)) {
         throw Laufzeitfehler(Laufzeitfehler::Ueberlauf,
-                             "Overflow in line " + std::to_string(zeile_));
+                             "Overflow in line " + std::to_string(kanal_.zeilennummer()));
     }
     return static_cast<int16_t>(wert);
 }

@@ -1,21 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "project/Textkanal.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
-// The tolerant list input of a project file: line by line, each value is what stands after the
-// leading blanks up to a comma or the end of the line.
+// The tolerant list input of a project file: each value is what stands after the leading blanks up
+// to a comma or the end of the line, and the value after a comma is read from the same line.
 class Listeneingabe {
 public:
     explicit Listeneingabe(std::string_view text);
 
-    // The value of the next line as text; a quoted text loses its quotes. Throws Laufzeitfehler
-    // (input past end of file) when no line is left.
+    // The next value as text; a quoted text loses its quotes. Throws Laufzeitfehler (input past
+    // end of file) when nothing is left.
     std::string text();
-    // The value of the next line as a number: sign, digits, point, exponent; an empty value is
+    // The next value as a number: sign, digits, point, exponent; an empty value is
     // 0. Throws Laufzeitfehler for a value that is not a number.
     double zahl();
     // The same, stored in a 32-bit float or a 16-bit integer (rounded half to even); a value
@@ -23,14 +24,10 @@ public:
     float f32();
     int16_t i16();
 
-    // The number of the line read last, from 1.
-    int zeile() const { return zeile_; }
-
 private:
-    std::string_view feld();
+    std::string feld();
 
-    std::vector<std::string_view> zeilen_;
-    int zeile_ = 0;
+    Textkanal kanal_;
 };
 
 // A text of the file's 8-bit code page as UTF-8 (a text that is valid UTF-8 stays as it is),

@@ -1,20 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "climate/Textkanal.h"
+#include "project/Textkanal.h"
 
 bool Textkanal::zeilenende() const {
     return pos_ < text_.size() && (text_[pos_] == '\r' || text_[pos_] == '\n');
 }
 
 void Textkanal::zeilenende_ueberspringen() {
+    const std::size_t vorher = pos_;
     if (pos_ < text_.size() && text_[pos_] == '\r') {
         ++pos_;
     }
     if (pos_ < text_.size() && text_[pos_] == '\n') {
         ++pos_;
     }
+    if (pos_ != vorher) {
+        ++zeilenenden_;
+    }
 }
 
 std::string Textkanal::eintrag() {
+    begonnen_ = zeilenenden_ + 1;
     while (pos_ < text_.size() && (text_[pos_] == ' ' || text_[pos_] == '\t')) {
         ++pos_;
     }
@@ -51,6 +56,7 @@ std::string Textkanal::eintrag() {
 }
 
 std::string Textkanal::zeile() {
+    begonnen_ = zeilenenden_ + 1;
     const std::size_t anfang = pos_;
     while (pos_ < text_.size() && !zeilenende()) {
         ++pos_;

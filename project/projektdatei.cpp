@@ -123,13 +123,10 @@ bool datei_lesen(Projekt& p, Eingabeflaechen& e, Dialogs& dialogs, std::string_v
     e.geometrie.Option_Dachfirst_Click(first);
     p.hd = ein.f32();
 
+    // Unlike the ridge, a window mode other than 0 or 1 leaves both options as they stand.
     const int16_t modus = ein.i16();
-    for (int index : {0, 1}) {
-        if (modus == index) {
-            e.fenster.Option1.setzen(index);
-        } else {
-            e.fenster.Option1.loeschen(index);
-        }
+    if (modus == 0 || modus == 1) {
+        e.fenster.Option1.setzen(modus);
     }
     e.fenster.Option1_Click(modus);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Building the station lists from the files of a klima folder.
-#include "climate/Textkanal.h"
+#include "project/Textkanal.h"
 #include "climate/stationslisten.h"
 #include "project/Zahltext.h"
 #include "tests/climate_choice/Klimahilfe.h"

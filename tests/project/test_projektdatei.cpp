@@ -109,18 +109,19 @@ TEST(Projektdatei, Version30LoadsWithoutInfiltrationAndWithHeatBridges) {
 
 TEST(Projektdatei, TolerantListInput) {
     std::vector<std::string> z = version32();
-    z[1] = "   12.5  ";                  // blanks around a number
-    z[2] = "8,99";                       // a comma ends the value
-    z[19] = ".35";                       // no blank, no zero
-    z[55] = "  trier.met,x";             // a station name is cut at the comma
-    z[0] = "  Velmaris Version 3.2,cut"; // the version line is read the same way
+    z[1] = "   12.5  ";     // blanks around a number
+    z[2] = "8,99";          // a comma ends the value; 99 is the next one, the height
+    z.erase(z.begin() + 3); // so the height line goes
+    z[18] = ".35";          // no blank, no zero (kwn, line 20 before the erase)
     z.push_back("further lines are ignored");
     Programm prog;
     ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
     EXPECT_EQ(prog.p->l, 12.5f);
     EXPECT_EQ(prog.p->b, 8.0f);
+    EXPECT_EQ(prog.p->h, 99.0f);
+    EXPECT_EQ(prog.p->ag, 2.0f);
     EXPECT_EQ(prog.p->kwn, 0.35f);
-    EXPECT_EQ(prog.p->Klimadatei, "trier.met");
+    EXPECT_EQ(prog.p->Waermebruecken, 0.1f);
 
     // LF alone ends a line as well.
     std::string lf = datei(version32());
@@ -129,6 +130,59 @@ TEST(Projektdatei, TolerantListInput) {
     }
     Programm zweites;
     EXPECT_TRUE(datei_lesen(*zweites.p, *zweites.e, zweites.dialogs, lf));
+}
+
+TEST(Projektdatei, ItemsAfterACommaAreReadFromTheSameLine) {
+    // The version line and the length on one line, the station and the inner wall kind on
+    // another: every value lands in its own field.
+    std::vector<std::string> z = version32();
+    z[0] = "  Velmaris Version 3.2, 12.5";
+    z.erase(z.begin() + 1);
+    z[54] = "trier.met, 2"; // the station, then the inner wall kind of the next line
+    z.erase(z.begin() + 55);
+    Programm prog;
+    ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
+    EXPECT_EQ(prog.p->l, 12.5f);
+    EXPECT_EQ(prog.p->b, 10.0f);
+    EXPECT_EQ(prog.p->Klimadatei, "trier.met");
+    EXPECT_EQ(prog.e->gebaeude.Innenwandart.ListIndex(), 2);
+    EXPECT_EQ(prog.e->gebaeude.Aussenwandart.ListIndex(), 1);
+    EXPECT_EQ(prog.p->Waermebruecken, 0.1f);
+
+    // A text after the comma of the version line becomes the length: a read fault, not a
+    // silently shifted project.
+    z = version32();
+    z[0] = "Velmaris Version 3.2,cut";
+    Programm drittes;
+    try {
+        datei_lesen(*drittes.p, *drittes.e, drittes.dialogs, datei(z));
+        FAIL() << "the text after the comma is read as the length";
+    } catch (const Laufzeitfehler& f) {
+        EXPECT_EQ(f.nummer(), Laufzeitfehler::Typfehler);
+    }
+    // A station name with a comma is cut there, and what follows is the next value.
+    z = version32();
+    z[55] = "  trier.met,x";
+    EXPECT_THROW(datei_lesen(*drittes.p, *drittes.e, drittes.dialogs, datei(z)), Laufzeitfehler);
+    EXPECT_EQ(drittes.p->Klimadatei, "trier.met");
+}
+
+TEST(Projektdatei, WindowModeLineWithAnotherValueKeepsTheOption) {
+    for (const char* zeile : {"5", "-1"}) {
+        Programm prog;
+        prog.e->fenster.Option1.setzen(1);
+        std::vector<std::string> z = version32();
+        z[61] = zeile;
+        ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
+        EXPECT_EQ(prog.e->fenster.Option1.gesetzt(), 1) << zeile;
+        EXPECT_EQ(prog.p->Fenstermodus, 1) << zeile;
+    }
+    Programm prog;
+    prog.e->fenster.Option1.setzen(1);
+    std::vector<std::string> z = version32();
+    z[61] = "0";
+    ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
+    EXPECT_EQ(prog.e->fenster.Option1.gesetzt(), 0);
 }
 
 TEST(Projektdatei, ShortOrBrokenFilesThrowAndKeepWhatWasRead) {
