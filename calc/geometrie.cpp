@@ -24,6 +24,8 @@ float f32(double v) {
 
 } // namespace
 
+// Every assignment of the geometry is a stored value and so a float; the products and sums inside
+// one assignment run in double.
 void geometrie_berechnen(Projekt& p) {
     const double l = p.l, b = p.b, h = p.h, hd = p.hd;
     // A wall to a heated neighbour has no area, so no loss and no window.

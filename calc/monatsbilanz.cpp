@@ -37,6 +37,9 @@ float nutzungsgrad(Projekt& p, float gamma) {
     return to_f32(nutzungsgrad_allgemein(gamma, a), "utilisation factor");
 }
 
+// Every field and every named intermediate (D, the four solar gains, L) is stored and so a float;
+// the sums and products inside one formula run in double. The conductances below are parts of the
+// loss formula, taken out of the month loop in the same order of operations.
 void monatsbilanz(Projekt& p) {
     p.Fensterverlust_N = p.Fensterverlust_W = p.Fensterverlust_S = p.Fensterverlust_O = 0;
     p.Fenstergewinn_N = p.Fenstergewinn_W = p.Fenstergewinn_S = p.Fenstergewinn_O = 0;

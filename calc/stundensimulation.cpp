@@ -52,6 +52,10 @@ void monat_zuruecksetzen(Monatswerte& M) {
 
 } // namespace
 
+// Widths: the two running temperatures and the driving power are double, since the model is
+// sensitive to where they are rounded; the plane radiations and everything the tables, month
+// sums and peaks keep are floats. The cooling load of the hour and its four causes are values of
+// the hour only and stay double until they are added to a float sum.
 void stundensimulation(Projekt& p) {
     double T_frei = p.Troom;
     double T_regel = p.Troom;

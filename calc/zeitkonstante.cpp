@@ -26,6 +26,8 @@ float lueftungskoeffizient(const Projekt& p) {
                               1000 * 1.29 * p.v_luft);
 }
 
+// The running capacity C, Hv, Cwirk and tau are kept and so floats; the interior wall area and
+// Ht are values of this run only and stay double.
 void zeitkonstante_berechnen(Projekt& p) {
     const double ca = bauweise_kapazitaet(p.Aussenwandart);
     const bool innen_gueltig = p.Innenwandart >= 0 && p.Innenwandart <= 2;

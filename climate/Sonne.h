@@ -24,6 +24,8 @@ double arccos(double x);
 // Sunrise and sunset of a day in clock hours, as the station reader uses them to place the
 // sample time of the first and the last sunlit hour.
 struct Sonnenaufgang {
+    // The reader holds the sunrise in double and the sunset as a float; both move the sample
+    // time of an hour, so each width shows in the direct radiation.
     double SA = 0; // sunrise, clock hours
     float SU = 0;  // sunset, clock hours
 };

@@ -17,6 +17,8 @@ void monatsstrahlung_berechnen(Projekt& p) {
     int n = 0;
     for (int m = 1; m <= 12; ++m) {
         Monatswerte& monat = p.Monat[m];
+        // The temperature sum is rounded to a float at every step; the plane sums are values of
+        // this run only and stay double until they are cut to whole MJ/m².
         float temperatur = 0;
         double summe[4] = {0, 0, 0, 0};
         for (int d = 1; d <= monat.Tage; ++d) {
