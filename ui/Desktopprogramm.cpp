@@ -23,8 +23,11 @@
 namespace {
 
 // The anchors of the help by input plane, in the order of E_Menue.
+// The help's sections of the input and the output planes, in the order of their buttons.
 constexpr std::array<const char*, 6> HILFE_ANKER{"geometrie", "fenster", "daemmung",
                                                  "gebaeude",  "klima",   "energie"};
+constexpr std::array<const char*, 5> HILFE_ANKER_AUSGABE{"uebersicht", "klima_gebaeude", "heizen",
+                                                         "kuehlen", "sankey"};
 
 } // namespace
 
@@ -189,7 +192,12 @@ void Desktopprogramm::fenster_bauen() {
     haupt->sprache = [this](const char* buchstabe) {
         bindungen->ausfuehren([this, buchstabe] { sprachmenue->klick(p, *dialoge_, buchstabe); });
     };
-    haupt->hilfe = [this] { hilfe_zeigen(); };
+    haupt->hilfe = [this] { hilfe_zeigen(""); };
+    haupt->hilfe_zur_ebene = [this] {
+        hilfe_zeigen(haupt->ausgabe_aktiv()
+                         ? HILFE_ANKER_AUSGABE[static_cast<std::size_t>(haupt->ausgabe_gezeigt())]
+                         : HILFE_ANKER[static_cast<std::size_t>(haupt->eingabe_gezeigt())]);
+    };
     haupt->info = [this] { start->exec(); };
     // The report window, modal, in the mode of its menu entry; English laid over it each time.
     auto report_fenster = [this](ReportFenster::Modus modus) {
@@ -385,10 +393,10 @@ void Desktopprogramm::nach_aktion() {
     }
 }
 
-void Desktopprogramm::hilfe_zeigen() {
+void Desktopprogramm::hilfe_zeigen(const std::string& anker) {
     if (!hilfe) {
         hilfe = std::make_unique<Hilfefenster>(datenordner("help") + "/velmaris_" + p.Sprache +
                                                ".html");
     }
-    hilfe->zeigen(HILFE_ANKER[static_cast<std::size_t>(haupt->eingabe_gezeigt())]);
+    hilfe->zeigen(anker);
 }

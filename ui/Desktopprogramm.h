@@ -76,7 +76,8 @@ private:
     Ergebnisebenen ergebnisebenen();
     void fehler_zeigen(const std::string& text);
     void nach_aktion();
-    void hilfe_zeigen();
+    // The help of the language of the run at `anker`, or at its start page if empty.
+    void hilfe_zeigen(const std::string& anker);
     void ergebnisse_bauen();
     // The result plane that came up: its fields and its charts from the record.
     void ausgabe_auffrischen();

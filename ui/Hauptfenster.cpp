@@ -3,10 +3,12 @@
 
 #include "ui/Bau.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 
 using bau::TWIPS_JE_PIXEL;
 
@@ -83,6 +85,9 @@ Hauptfenster::Hauptfenster() {
     menue_bauen();
     eingabe_zeigen(Geometrie);
     ausgabe_zeigen(Uebersicht);
+    ausgabe_aktiv_ = false;
+    // A click or the focus in a plane makes it the one F1 explains.
+    qApp->installEventFilter(this);
     // The least size: the whole client area (8595 twips of the window are its 8190 with the
     // frame of the platform) under the menu.
     setMinimumSize(CLIENT_BREITE, CLIENT_HOEHE + menuBar()->sizeHint().height());
@@ -154,9 +159,16 @@ void Hauptfenster::menue_bauen() {
     });
 
     QMenu* frage = menue(nullptr, "mnuQuest", "&?");
-    QAction* hilfe_eintrag = eintrag(frage, "mnuQuestHilfe", "&Hilfe", &hilfe);
-    hilfe_eintrag->setShortcut(Qt::Key_F1);
-    hilfe_eintrag->setShortcutContext(Qt::ApplicationShortcut);
+    // The menu entry opens the start page, F1 the section of the plane last worked on.
+    eintrag(frage, "mnuQuestHilfe", "&Hilfe", &hilfe);
+    auto* f1 = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    f1->setObjectName(QStringLiteral("F1"));
+    f1->setContext(Qt::ApplicationShortcut);
+    connect(f1, &QShortcut::activated, this, [this] {
+        if (hilfe_zur_ebene) {
+            hilfe_zur_ebene();
+        }
+    });
     eintrag(frage, "mnuQuestInfo", "&Info...", &info);
 }
 
@@ -169,6 +181,7 @@ void Hauptfenster::eingabe_zeigen(int ebene) {
         eingabe_knopf[static_cast<std::size_t>(i)]->setEnabled(true);
     }
     eingabe_gezeigt_ = ebene;
+    ausgabe_aktiv_ = false;
     eingabe[static_cast<std::size_t>(ebene)]->show();
     eingabe_knopf[static_cast<std::size_t>(ebene)]->setEnabled(false);
     if (ebene_gezeigt) {
@@ -184,6 +197,7 @@ void Hauptfenster::ausgabe_zeigen(int ebene) {
         k->setEnabled(true);
     }
     ausgabe_gezeigt_ = ebene;
+    ausgabe_aktiv_ = true;
     ausgabe[static_cast<std::size_t>(ebene)]->show();
     ausgabe_knopf[static_cast<std::size_t>(ebene)]->setEnabled(false);
     if (ebene_gezeigt) {
@@ -197,4 +211,19 @@ void Hauptfenster::closeEvent(QCloseEvent* e) {
         return;
     }
     e->accept();
+}
+
+bool Hauptfenster::eventFilter(QObject* ziel, QEvent* e) {
+    if (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::FocusIn) {
+        if (auto* w = qobject_cast<QWidget*>(ziel)) {
+            QWidget* links = eingabe[static_cast<std::size_t>(eingabe_gezeigt_)];
+            QWidget* rechts = ausgabe[static_cast<std::size_t>(ausgabe_gezeigt_)];
+            if (w == rechts || rechts->isAncestorOf(w)) {
+                ausgabe_aktiv_ = true;
+            } else if (w == links || links->isAncestorOf(w)) {
+                ausgabe_aktiv_ = false;
+            }
+        }
+    }
+    return QMainWindow::eventFilter(ziel, e);
 }

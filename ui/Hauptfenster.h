@@ -37,9 +37,14 @@ public:
     int eingabe_gezeigt() const { return eingabe_gezeigt_; }
     // The output plane shown.
     int ausgabe_gezeigt() const { return ausgabe_gezeigt_; }
+    // Whether the plane last worked on (its button, a click or the keyboard focus in it) is the
+    // output plane; otherwise it is the input plane. F1 opens the help of that plane.
+    bool ausgabe_aktiv() const { return ausgabe_aktiv_; }
 
     // The menu's actions; each is set by the program.
     std::function<void()> neu, oeffnen, speichern, speichern_unter, beenden, hilfe, info;
+    // F1: the help at the section of the plane last worked on.
+    std::function<void()> hilfe_zur_ebene;
     // The report window with the report, or with the temperature course.
     std::function<void()> report_anzeigen, temperaturen_anzeigen;
     // The print dialog, modal.
@@ -54,9 +59,11 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* e) override;
+    bool eventFilter(QObject* ziel, QEvent* e) override;
 
 private:
     void menue_bauen();
     int eingabe_gezeigt_ = Geometrie;
     int ausgabe_gezeigt_ = Uebersicht;
+    bool ausgabe_aktiv_ = false;
 };

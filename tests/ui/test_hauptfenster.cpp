@@ -349,16 +349,36 @@ private slots:
         QCOMPARE(dialoge->nachrichten.back().titel, std::string("Änderungen speichern ?"));
     }
 
-    // F1 opens the help of the language of the run at the plane that is shown.
+    // F1 opens the help of the language of the run at the plane last worked on, input or
+    // output; the menu entry opens the start page.
     void hilfe_zur_ebene() {
         starten("e");
-        programm->haupt->eingabe_knopf[Hauptfenster::Daemmung]->click();
-        QAction* hilfe = programm->haupt->findChild<QAction*>("mnuQuestHilfe");
-        QCOMPARE(hilfe->shortcut(), QKeySequence(Qt::Key_F1));
-        hilfe->trigger();
+        Hauptfenster& haupt = *programm->haupt;
+        haupt.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&haupt));
+        haupt.eingabe_knopf[Hauptfenster::Daemmung]->click();
+        QTest::keyClick(&haupt, Qt::Key_F1);
+        QVERIFY(programm->hilfe != nullptr);
         QVERIFY(programm->hilfe->isVisible());
         QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#daemmung"));
         QVERIFY(programm->hilfe->toPlainText().size() > 1000);
+
+        haupt.ausgabe_knopf[Hauptfenster::Heizen]->click();
+        QTest::keyClick(&haupt, Qt::Key_F1);
+        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#heizen"));
+        // A click into the input plane makes it the one F1 explains again.
+        QTest::mouseClick(ebene(Hauptfenster::Daemmung), Qt::LeftButton, {}, QPoint(5, 5));
+        QTest::keyClick(&haupt, Qt::Key_F1);
+        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#daemmung"));
+        QTest::mouseClick(haupt.ausgabe[Hauptfenster::Heizen], Qt::LeftButton, {}, QPoint(5, 5));
+        QTest::keyClick(&haupt, Qt::Key_F1);
+        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#heizen"));
+
+        haupt.findChild<QAction*>("mnuQuestHilfe")->trigger();
+        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html"));
+        programm->hilfe->resize(800, 700);
+        programm->hilfe->scrollToAnchor(QStringLiteral("beispiel"));
+        bild_speichern(*programm->hilfe, QStringLiteral("hilfe_beispiel_e"));
     }
 
     void ebenenknopf_gesperrt_solange_ebene_gezeigt() {
