@@ -4,14 +4,24 @@
 #
 #   tools/klima_erzeugen.sh [VELMARIS-CLI] [CLIMATE-SOURCES]
 #
-# Defaults: build/dev/app/velmaris-cli and ../shared/climate-sources beside the checkout.
+# Defaults: the velmaris-cli of scripts/run.sh (build/release) or of scripts/test.sh (build/test),
+# and ../shared/climate-sources beside the checkout.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-cli=${1:-build/dev/app/velmaris-cli}
+cli=${1:-}
+if [[ -z $cli ]]; then
+    for kandidat in build/release/app/velmaris-cli build/test/app/velmaris-cli; do
+        if [[ -x $kandidat ]]; then
+            cli=$kandidat
+            break
+        fi
+    done
+    cli=${cli:-build/release/app/velmaris-cli}
+fi
 quellen=${2:-../shared/climate-sources}
 if [[ ! -x $cli ]]; then
-    echo "klima_erzeugen: no velmaris-cli at $cli (build it first)" >&2
+    echo "klima_erzeugen: no velmaris-cli at $cli (build it first: scripts/run.sh or scripts/test.sh)" >&2
     exit 1
 fi
 if [[ ! -d $quellen ]]; then

@@ -4,7 +4,7 @@
 // The hourly tables enter through a checksum of their bit patterns.
 //
 // After an intended change of results, regenerate and review the golden files:
-//   VELMARIS_GOLDEN_UPDATE=1 build/dev/tests/test_regression
+//   VELMARIS_GOLDEN_UPDATE=1 build/test/tests/test_regression
 //   git diff tests/regression/golden/
 #include "app/cli/ergebnis_json.h"
 #include "calc/c_mod.h"

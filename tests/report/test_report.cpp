@@ -3,7 +3,7 @@
 // pages, the deliberate wording and the saved ANSI file.
 //
 // After an intended change of the report, regenerate and review the golden files:
-//   VELMARIS_GOLDEN_UPDATE=1 build/dev/tests/test_report
+//   VELMARIS_GOLDEN_UPDATE=1 build/test/tests/test_report
 //   git diff tests/report/golden/
 #include "report/RtfLeser.h"
 #include "tests/report/Reporthilfe.h"
