@@ -42,7 +42,9 @@ void geometrie_berechnen(Projekt& p) {
         const double spann = (p.Dachfirst == 1) ? l : b;
         if (spann == 0) {
             throw FatalError("Division by zero: the roof pitch needs a building length and width "
-                             "above 0.");
+                             "above 0.",
+                             "Division durch Null: die Dachneigung braucht eine Gebäudelänge und "
+                             "-breite über 0.");
         }
         if (p.Dachfirst == 1) {
             // North-south ridge along b, spanning l: roof planes face east and west.
@@ -85,7 +87,9 @@ void geometrie_berechnen(Projekt& p) {
     p.AV = f32(huelle / p.v_geb);
 
     if (b + l == 0) {
-        throw FatalError("Division by zero: the floor dimension needs a length and width above 0.");
+        throw FatalError("Division by zero: the floor dimension needs a length and width above 0.",
+                         "Division durch Null: das Grundrissmaß braucht eine Länge und Breite "
+                         "über 0.");
     }
     const double B = p.f_gd / (b + l);
     if (p.ugd_typ >= 0 && p.ugd_typ <= 4) {
