@@ -44,7 +44,9 @@ void geometrie_berechnen(Projekt& p) {
         const double spann = (p.Dachfirst == 1) ? l : b;
         if (spann == 0) {
             throw FatalError("Division by zero: the roof pitch needs a building length and width "
-                             "above 0.");
+                             "above 0.",
+                             "Division durch Null: die Dachneigung braucht eine Gebäudelänge und "
+                             "-breite über 0.");
         }
         if (p.Dachfirst == 1) {
             // North-south ridge along b, spanning l: roof planes face east and west.
@@ -88,7 +90,9 @@ void geometrie_berechnen(Projekt& p) {
     p.AV = f32(static_cast<double>(huelle) / p.v_geb);
 
     if (b + l == 0) {
-        throw FatalError("Division by zero: the floor dimension needs a length and width above 0.");
+        throw FatalError("Division by zero: the floor dimension needs a length and width above 0.",
+                         "Division durch Null: das Grundrissmaß braucht eine Länge und Breite "
+                         "über 0.");
     }
     // B is held as a float before it meets the column boundaries: l = 13.2, b = 41.25 gives
     // 10.00000004 in double but 10 as a float, the middle column.

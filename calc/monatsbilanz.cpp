@@ -51,8 +51,9 @@ void monatsbilanz(Projekt& p) {
     // Only rows 0..3 exist; with a heated attic the factor is that of row 0, which is 1.
     const int k = p.Dachgeschoss ? 0 : p.Dachraum_typ;
     if (k < 0 || k > 3) {
-        throw FatalError("The roof space kind " + std::to_string(k) +
-                         " is outside the table 0..3.");
+        throw FatalError("The roof space kind " + std::to_string(k) + " is outside the table 0..3.",
+                         "Die Dachraumart " + std::to_string(k) +
+                             " liegt außerhalb der Tabelle 0..3.");
     }
     const double faktor = p.Dachraum[static_cast<std::size_t>(k)].Faktor;
     const double dach =
@@ -148,7 +149,8 @@ void monatsbilanz(Projekt& p) {
     }
 
     if (p.f_nutz == 0) {
-        throw FatalError("Division by zero: the usable floor area is 0.");
+        throw FatalError("Division by zero: the usable floor area is 0.",
+                         "Division durch Null: die Nutzfläche ist 0.");
     }
     const double A = p.f_nutz;
     p.qhs_sum = f32(p.qh / A);

@@ -64,13 +64,15 @@ void stundensimulation(Projekt& p) {
     zeitkonstante_berechnen(p);
     const int i = p.Dachgeschoss ? 0 : p.Dachraum_typ;
     if (i < 0 || i > 3) {
-        throw FatalError("The roof space kind " + std::to_string(i) +
-                         " is outside the table 0..3.");
+        throw FatalError("The roof space kind " + std::to_string(i) + " is outside the table 0..3.",
+                         "Die Dachraumart " + std::to_string(i) +
+                             " liegt außerhalb der Tabelle 0..3.");
     }
     const double Hv = lueftungskoeffizient(p);
     kennwerte_schreiben(p, Hv);
     if (p.tau == 0) {
-        throw FatalError("Division by zero: the time constant tau is 0.");
+        throw FatalError("Division by zero: the time constant tau is 0.",
+                         "Division durch Null: die Zeitkonstante tau ist 0.");
     }
 
     const float tau = p.tau, Cwirk = p.Cwirk, Troom = p.Troom, Tueber = p.Tueber;
@@ -201,7 +203,9 @@ void stundensimulation(Projekt& p) {
                     const double S = Gs + Gi + Gt + Gv;
                     if (S == 0) {
                         throw FatalError("Division by zero: a cooling hour has no gain of any "
-                                         "kind to share its load among.");
+                                         "kind to share its load among.",
+                                         "Division durch Null: eine Kühlstunde hat keinen "
+                                         "Gewinn, auf den sich ihre Last verteilen ließe.");
                     }
                     M.Kuehl_intern = f32(M.Kuehl_intern + Qk * Gi / S);
                     M.Kuehl_solar = f32(M.Kuehl_solar + Qk * Gs / S);

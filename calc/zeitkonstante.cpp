@@ -6,6 +6,8 @@
 #include "project/checked.h"
 
 #include <cmath>
+#include <iomanip>
+#include <sstream>
 
 int32_t bauweise_kapazitaet(int16_t index) {
     switch (index) {
@@ -61,13 +63,19 @@ void zeitkonstante_berechnen(Projekt& p) {
     // 1290 J/(m³ K) for the air itself.
     p.Cwirk = to_f32(p.v_luft * 1290.0 + C, "effective heat capacity Cwirk");
     if (p.Cwirk / static_cast<double>(p.v_geb) / 3600 < 0) {
+        std::ostringstream wert;
+        wert << std::fixed << std::setprecision(0) << p.Cwirk;
         throw FatalError(
-            "The effective heat capacity comes out negative (Cwirk = " + std::to_string(p.Cwirk) +
-            " J/K): the building is too tall or too light for its floor area.");
+            "The effective heat capacity comes out negative (Cwirk = " + wert.str() +
+                " J/K): the building is too tall or too light for its floor area.",
+            "Die wirksame Wärmekapazität wird negativ (Cwirk = " + wert.str() +
+                " J/K): das Gebäude ist für seine Grundfläche zu hoch oder zu leicht.");
     }
     if (Ht + Hv == 0) {
         throw FatalError("Division by zero: the time constant needs a transmission or "
-                         "ventilation loss above 0.");
+                         "ventilation loss above 0.",
+                         "Division durch Null: die Zeitkonstante braucht einen Transmissions- "
+                         "oder Lüftungsverlust über 0.");
     }
     p.tau = to_f32(p.Cwirk / (Ht + Hv), "time constant tau");
 }

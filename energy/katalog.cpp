@@ -98,8 +98,12 @@ Energiekennwerte katalog_werte(int16_t Heizsystem, int16_t Uebergabe, int16_t En
                                float f_nutz) {
     const int s = Heizsystem, u = Uebergabe, t = Energietraeger;
     if (s < 1 || s > 9 || u < 1 || u > 2 || t < 1 || t > 4 || !angeboten(s, t)) {
-        throw FatalError("The heat supply " + std::to_string(s) + "/" + std::to_string(u) + "/" +
-                         std::to_string(t) + " (system/transfer/carrier) is not in the catalogue.");
+        const std::string wahl =
+            std::to_string(s) + "/" + std::to_string(u) + "/" + std::to_string(t);
+        throw FatalError("The heat supply " + wahl +
+                             " (system/transfer/carrier) is not in the catalogue.",
+                         "Die Wärmeversorgung " + wahl +
+                             " (System/Übergabe/Energieträger) steht nicht im Katalog.");
     }
     Energiekennwerte k;
     k.q_ce = s <= 7 ? 1.1f : (s == 8 ? 0.7f : 4.4f);

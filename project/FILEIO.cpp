@@ -7,6 +7,7 @@
 #include "planes/Eingabeflaechen.h"
 #include "project/Dateizugriff.h"
 #include "project/Dialogs.h"
+#include "project/FatalError.h"
 #include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"
 #include "project/eingaben_anzeigen.h"
@@ -81,8 +82,9 @@ void FILEIO::datei_schliessen() {
     offene_datei_.clear();
 }
 
-void FILEIO::fehler_melden() {
-    d_.nachricht("Dateifehler!", "Velmaris", Dialogs::Symbol::Keins, Dialogs::Knoepfe::OK);
+void FILEIO::fehler_melden(const std::string& ursache) {
+    const std::string text = ursache.empty() ? "Dateifehler!" : "Dateifehler!\n\n" + ursache;
+    d_.nachricht(text, "Velmaris", Dialogs::Symbol::Keins, Dialogs::Knoepfe::OK);
 }
 
 int FILEIO::frage_aenderung() {
@@ -174,18 +176,34 @@ void FILEIO::datei_oeffnen(const std::string& pfad) {
             titel_mit_namen();
             d_.erste_ebenen_zeigen();
         } else {
-            // The reader refused the file: the former project stays, without a name.
+            // The reader refused the file: the former project stays, without a name and without
+            // a file, so that a plain save asks for a name.
+            datei_schliessen();
             titel_unbenannt();
         }
         d_.wartecursor(false);
     } catch (const Abbruch&) {
         d_.wartecursor(false);
         fehler_melden();
+    } catch (const FatalError& f) {
+        // The recalculation of the new project or its station file failed: the message of the
+        // open, and below it what failed and why.
+        nach_fehlgeschlagenem_oeffnen();
+        fehler_melden(f.text(p_.Sprache));
     } catch (const std::runtime_error&) {
-        // A fault of the file, of a value or of the recalculation of the new project.
-        d_.wartecursor(false);
+        // A fault of the file or of a value.
+        nach_fehlgeschlagenem_oeffnen();
         fehler_melden();
     }
+}
+
+void FILEIO::nach_fehlgeschlagenem_oeffnen() {
+    // The record may hold part of the file now: it belongs to no file, so that a plain save
+    // asks for a name instead of overwriting the damaged file.
+    datei_schliessen();
+    p_.Datei = UNBENANNT;
+    titel_unbenannt();
+    d_.wartecursor(false);
 }
 
 void FILEIO::schreiben() {

@@ -29,7 +29,9 @@ public:
     void datei_neu();
     // Opens the project `pfad`, or asks for one when it is empty. Every fault (a cancelled
     // prompt or dialog, a missing or short file, a value out of range) ends in the message
-    // "Dateifehler!" and leaves the load guard as it stood.
+    // "Dateifehler!" and leaves the load guard as it stood; a fault of the calculation adds its
+    // own text in the language of the run. After a fault past the dialog the project is
+    // unnamed: no file is held open and a plain save asks for a name.
     void datei_oeffnen(const std::string& pfad);
     // Saves under the current name, or asks for one when no file is open. False after a write
     // fault, which leaves the former file whole.
@@ -65,7 +67,9 @@ private:
     void titel_unbenannt();
     void titel_mit_namen();
     void titel_setzen(const std::string& titel);
-    void fehler_melden();
+    // "Dateifehler!", with the cause below it when one is given.
+    void fehler_melden(const std::string& ursache = std::string());
+    void nach_fehlgeschlagenem_oeffnen();
     void schreiben();
 
     Projekt& p_;

@@ -11,4 +11,16 @@
 class FatalError : public std::runtime_error {
 public:
     explicit FatalError(const std::string& text) : std::runtime_error(text) {}
+    // The same fault told in English (what()) and in German.
+    FatalError(const std::string& english, std::string deutsch)
+        : std::runtime_error(english), deutsch_(std::move(deutsch)) {}
+
+    // The text in the language of the run: German unless `sprache` is "e"; a fault that is told
+    // in English only keeps its English text.
+    std::string text(const std::string& sprache) const {
+        return sprache == "e" || deutsch_.empty() ? std::string(what()) : deutsch_;
+    }
+
+private:
+    std::string deutsch_;
 };

@@ -35,10 +35,17 @@ void aktiv_setzen(QWidget& w, bool aktiv) {
 
 } // namespace
 
-Bindungen::Bindungen(std::function<void(const std::string&)> fehler, std::function<void()> gelungen)
-    : fehler_(std::move(fehler)), gelungen_(std::move(gelungen)) {}
+Bindungen::Bindungen(std::function<void(const std::string&)> fehler, std::function<void()> nachher,
+                     std::function<bool(bool)> gueltig_nach)
+    : fehler_(std::move(fehler)), nachher_(std::move(nachher)),
+      gueltig_nach_(std::move(gueltig_nach)) {}
 
-void Bindungen::ausfuehren(const std::function<void()>& aktion) {
+bool Bindungen::ausfuehren(const std::function<void()>& aktion) {
+    // A fault's message box runs the event loop: an arrow's auto-repeat, a timer or a queued
+    // click would otherwise run the action again and stack up one message on the other.
+    if (meldet_) {
+        return false;
+    }
     // A handler may run another bound action (a list's selection moves scroll fields); only the
     // outermost one reports and updates.
     ++tiefe_;
@@ -48,22 +55,26 @@ void Bindungen::ausfuehren(const std::function<void()>& aktion) {
         aktion();
     } catch (const FatalError& f) {
         fehlerfrei = false;
-        text = f.what();
+        text = f.text(sprache);
     } catch (const Laufzeitfehler& f) {
         fehlerfrei = false;
         text = f.what();
     }
     --tiefe_;
     if (tiefe_ > 0) {
-        return;
+        return fehlerfrei;
     }
-    gueltig_ = fehlerfrei;
+    gueltig_ = gueltig_nach_ ? gueltig_nach_(fehlerfrei) : fehlerfrei;
     abgleichen();
-    if (!fehlerfrei) {
-        fehler_(text);
-    } else if (gelungen_) {
-        gelungen_();
+    if (nachher_) {
+        nachher_();
     }
+    if (!fehlerfrei) {
+        meldet_ = true;
+        fehler_(text);
+        meldet_ = false;
+    }
+    return fehlerfrei;
 }
 
 void Bindungen::abgleichen() {
@@ -113,13 +124,19 @@ void Bindungen::scroll(QScrollBar& sb, ScrollField& feld) {
         default:
             return;
         }
-        ausfuehren([&feld, richtung, seite] {
+        const bool gelungen = ausfuehren([&feld, richtung, seite] {
             if (seite) {
                 feld.seite(richtung);
             } else {
                 feld.pfeil(richtung);
             }
         });
+        // A fault ends a held press: a bar that is disabled, if only for a moment, stops
+        // repeating its step.
+        if (!gelungen) {
+            sb.setEnabled(false);
+            sb.setEnabled(feld.Enabled);
+        }
         sb.setSliderPosition(feld.Value());
     });
     // Dragging, the wheel and the ends: the position the bar reached.

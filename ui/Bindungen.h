@@ -26,12 +26,16 @@ struct Label;
 // a handler, an enabled, visible or text change reaches the screen without firing anything back.
 //
 // All user actions run through `ausfuehren`, which catches a fault of the calculation and hands
-// it to `fehler`, so that a handler never leaves an exception in Qt's event loop.
+// it to `fehler`, so that a handler never leaves an exception in Qt's event loop. One action
+// reports at most one fault: while its message is up, no other action runs.
 class Bindungen : public QObject {
 public:
-    // `fehler` gets the text of a FatalError and of a run-time error of a handler; `gelungen`
-    // runs after a user action that ended without a fault.
-    Bindungen(std::function<void(const std::string&)> fehler, std::function<void()> gelungen);
+    // `fehler` gets the text of a FatalError and of a run-time error of a handler; `nachher`
+    // runs after every user action. `gueltig_nach` tells from the action's own outcome (false
+    // for a fault that reached here) whether the results stand now; without it they stand
+    // after every action without a fault.
+    Bindungen(std::function<void(const std::string&)> fehler, std::function<void()> nachher,
+              std::function<bool(bool)> gueltig_nach = nullptr);
 
     // Drag, arrows and page clicks of the bar move the field by its own steps: a negative large
     // step moves against the click. Min, Max, position, Enabled and Visible follow the field.
@@ -52,16 +56,23 @@ public:
     // Any other state of a widget that follows its model, run at each update.
     void folgen(std::function<void()> abgleich);
 
-    // Runs a user action on the models, then brings every widget up to date.
-    void ausfuehren(const std::function<void()>& aktion);
+    // Runs a user action on the models, then brings every widget up to date. False when the
+    // action was a fault, or was not run because a fault's message is still up.
+    bool ausfuehren(const std::function<void()>& aktion);
     // Brings every bound widget to its model's state, without firing anything.
     void abgleichen();
-    // Whether the last user action ended without a fault of the calculation.
+    // The language of the run ("d" or "e"), in which a fault's text is reported.
+    std::string sprache = "d";
+
+    // Whether the results on the planes belong to the inputs: false from a fault of the
+    // calculation until a calculation succeeds.
     bool gueltig() const { return gueltig_; }
 
 private:
     std::function<void(const std::string&)> fehler_;
-    std::function<void()> gelungen_;
+    std::function<void()> nachher_;
+    std::function<bool(bool)> gueltig_nach_;
+    bool meldet_ = false;
     std::vector<std::function<void()>> abgleiche_;
     int tiefe_ = 0;
     bool gueltig_ = true;

@@ -42,6 +42,7 @@ Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
 Desktopprogramm::~Desktopprogramm() {
     // The refresh table gives the observer back to the planes before they go.
     auffrischen_.reset();
+    rechenlauf_.reset();
     zoom.reset();
     klimaimport.reset();
     haupt.reset();
@@ -116,8 +117,10 @@ void Desktopprogramm::fenster_bauen() {
         haupt->eingabe_zeigen(Hauptfenster::Geometrie);
         haupt->ausgabe_zeigen(Hauptfenster::Uebersicht);
     };
-    bindungen = std::make_unique<Bindungen>([this](const std::string& t) { fehler_zeigen(t); },
-                                            [this] { nach_aktion(); });
+    bindungen = std::make_unique<Bindungen>(
+        [this](const std::string& t) { fehler_zeigen(t); }, [this] { nach_aktion(); },
+        [this](bool fehlerfrei) { return ergebnisse_gueltig(fehlerfrei); });
+    bindungen->sprache = p.Sprache;
 
     const std::string grafiken = datenordner("Grafiken");
     Ebenenbau bau;
@@ -221,8 +224,10 @@ void Desktopprogramm::fenster_bauen() {
         const int e = haupt->eingabe_gezeigt();
         ebenen->geometrie.Visible = e == Hauptfenster::Geometrie;
         ebenen->fenster.Visible = e == Hauptfenster::Fenster;
-        // A plane that comes up recalculates and draws its sketch anew.
-        if (bindungen && p.Gestartet == 1 && haupt->eingabe_gezeigt() == Hauptfenster::Geometrie) {
+        // A plane that comes up recalculates and draws its sketch anew; after a fault the
+        // next change does, so that showing a plane does not report the fault again.
+        if (bindungen && bindungen->gueltig() && p.Gestartet == 1 &&
+            haupt->eingabe_gezeigt() == Hauptfenster::Geometrie) {
             bindungen->ausfuehren([this] { alles_berechnen(p); });
         }
         ausgabe_auffrischen();
@@ -251,6 +256,7 @@ void Desktopprogramm::ergebnisse_bauen() {
     const EnergieDiagramme& en = energie_diagramme;
     energie_flaechen_ = std::make_unique<EnergieFlaechen>(EnergieFlaechen{
         en.Monatsuebersicht->flaeche(), en.Picture2->flaeche(), en.Picture3->flaeche()});
+    rechenlauf_ = std::make_unique<Rechenlauf>(p, ebenen.get());
     auffrischen_ = std::make_unique<Auffrischtabelle>(
         p, ergebnisebenen(),
         [this](Ebene e) {
@@ -273,7 +279,7 @@ void Desktopprogramm::ergebnisse_bauen() {
             }
             return false;
         },
-        einstellung_, ebenen.get());
+        einstellung_, rechenlauf_.get());
     // A chart that comes up is drawn from the record as it stands.
     auto beim_zeigen = [this](ChartWidget* c, Flaeche f) {
         c->zeichnen = [this, c, f] {
@@ -310,7 +316,7 @@ void Desktopprogramm::ergebnisse_bauen() {
 }
 
 void Desktopprogramm::ausgabe_auffrischen() {
-    if (p.Gestartet != 1 || !fehler.empty()) {
+    if (p.Gestartet != 1 || !bindungen->gueltig()) {
         return;
     }
     switch (haupt->ausgabe_gezeigt()) {
@@ -364,20 +370,38 @@ Ergebnisebenen Desktopprogramm::ergebnisebenen() {
     return x;
 }
 
+bool Desktopprogramm::ergebnisse_gueltig(bool fehlerfrei) {
+    const Rechenlauf::Stand lauf = rechenlauf_ ? rechenlauf_->abholen() : Rechenlauf::Stand::Keiner;
+    // A fault while a project was read leaves the load guard set: the record is part old, part
+    // new, and nothing is calculated until a project is built up again.
+    if (!fehlerfrei || lauf == Rechenlauf::Stand::Abgebrochen || p.FormLoadGuard != 0) {
+        return false;
+    }
+    return lauf == Rechenlauf::Stand::Fertig || bindungen->gueltig();
+}
+
 void Desktopprogramm::fehler_zeigen(const std::string& text) {
     fehler = text;
-    for (ChartWidget* c : diagramme_) {
-        c->gueltig_setzen(false);
-    }
     dialoge_->wartecursor(false);
     dialoge_->nachricht(text, "Velmaris", Dialogs::Symbol::Ausrufezeichen, Dialogs::Knoepfe::OK);
 }
 
 void Desktopprogramm::nach_aktion() {
-    fehler.clear();
+    const bool gueltig = bindungen->gueltig();
     for (ChartWidget* c : diagramme_) {
-        c->gueltig_setzen(true);
+        c->gueltig_setzen(gueltig);
     }
+    // The result planes grey their fields with the charts; the planes' buttons stay usable.
+    for (QWidget* a : haupt->ausgabe) {
+        a->setEnabled(gueltig);
+    }
+    if (zoom) {
+        zoom->Temperaturen->gueltig_setzen(gueltig);
+    }
+    if (!gueltig) {
+        return;
+    }
+    fehler.clear();
     if (haupt->eingabe_gezeigt() == Hauptfenster::Geometrie) {
         Ergebnisebenen x = ergebnisebenen();
         neu_zeichnen(Flaeche::Picture1, p, x, einstellung_);

@@ -12,6 +12,7 @@
 #include "ui/Hilfefenster.h"
 #include "ui/KlimaimportFenster.h"
 #include "ui/QtDialogs.h"
+#include "ui/Rechenlauf.h"
 #include "ui/StartFenster.h"
 #include "ui/ZoomFenster.h"
 
@@ -65,7 +66,7 @@ public:
     std::unique_ptr<ImportDialoge> import_dialoge;
     // How many rows of the caption tables found no control at the English start.
     int unuebersetzt = 0;
-    // The last fault of the calculation, empty while the results are valid.
+    // The text of the last fault reported, empty while the results are valid.
     std::string fehler;
 
     Dialogs& dialoge() { return *dialoge_; }
@@ -75,6 +76,10 @@ private:
     // The chart surfaces of the built planes, as the refresh routines take them.
     Ergebnisebenen ergebnisebenen();
     void fehler_zeigen(const std::string& text);
+    // Whether the results stand after a user action: not after a fault, nor after a run of the
+    // driver that a fault stopped, nor while a project read in part holds the load guard; again
+    // after a run that reached its end; otherwise as they stood.
+    bool ergebnisse_gueltig(bool fehlerfrei);
     void nach_aktion();
     // The help of the language of the run at `anker`, or at its start page if empty.
     void hilfe_zeigen(const std::string& anker);
@@ -95,6 +100,7 @@ private:
     std::unique_ptr<SankeyFlaechen> sankey_flaechen_;
     std::unique_ptr<EnergieFlaechen> energie_flaechen_;
     HeizFelder heiz_felder_;
+    std::unique_ptr<Rechenlauf> rechenlauf_;
     std::unique_ptr<Auffrischtabelle> auffrischen_;
     Diagrammeinstellung einstellung_;
     std::vector<ChartWidget*> diagramme_;

@@ -12,7 +12,9 @@
 // once, printed as one JSON object.
 // calc PROJECT.vel [--klima DIR] [--sprache d|e] [--hourly]: a fresh start, then the project
 // opened as the desktop opens it, printed the same way. Status 3 for a wrong version line, 2 for
-// any other fault of the file ("Dateifehler!").
+// any other fault of the file ("Dateifehler!", and below it the cause of a calculation fault).
+// A project whose station file is missing is calculated on the default station, as the desktop
+// does: the climate message on `fehler`, the results on `aus`, status 4.
 int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler);
 
 // save OUT.vel [--from PROJECT.vel] [--klima DIR]: the new project, or the one opened, written

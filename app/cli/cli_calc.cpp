@@ -37,11 +37,11 @@ int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::os
         // A fresh start as the desktop's, then the project opened by the menu's own code.
         KonsolenProgramm programm(klima, sprache);
         const int status = programm.oeffnen(datei, fehler);
-        if (status != 0) {
+        if (status != 0 && status != KonsolenProgramm::STATION_ERSETZT) {
             return status;
         }
         aus << ergebnis_json(programm.p, stunden) << "\n";
-        return 0;
+        return status;
     }
 
     Projekt& p = projekt();

@@ -5,6 +5,8 @@
 #include "language/c_Sprache.h"
 #include "project/c_glob.h"
 
+#include <algorithm>
+
 Dialogs::Antwort KonsolenDialogs::nachricht(const std::string& text, const std::string& t, Symbol,
                                             Knoepfe knoepfe, bool) {
     texte.push_back(text);
@@ -36,13 +38,23 @@ KonsolenProgramm::KonsolenProgramm(const std::string& klima, const std::string& 
 int KonsolenProgramm::oeffnen(const std::string& pfad, std::ostream& fehler) {
     const std::size_t vorher = dialogs.texte.size();
     io->datei_oeffnen(pfad);
+    int status = 0;
     for (std::size_t i = vorher; i < dialogs.texte.size(); ++i) {
+        // A message box breaks its lines with CR LF or with CR alone; the terminal takes LF.
         std::string text = dialogs.texte[i];
-        for (std::size_t cr = text.find('\r'); cr != std::string::npos; cr = text.find('\r')) {
-            text.erase(cr, 1);
+        for (std::size_t crlf = text.find("\r\n"); crlf != std::string::npos;
+             crlf = text.find("\r\n", crlf)) {
+            text.erase(crlf, 1);
         }
+        std::replace(text.begin(), text.end(), '\r', '\n');
         fehler << text << "\n";
+        if (dialogs.titel[i] == p.txt_Klima_Titel) {
+            // The project's station is missing: the default station stands in and the project
+            // is calculated on it.
+            status = STATION_ERSETZT;
+            continue;
+        }
         return dialogs.titel[i] == "Fehler" ? 3 : 2;
     }
-    return 0;
+    return status;
 }

@@ -42,6 +42,10 @@ struct KonsolenProgramm {
     std::unique_ptr<FILEIO> io;
 
     // Opens a project as the menu does. Returns the exit status: 0 read, 3 a wrong version line
-    // (its message on `fehler`), 2 any other fault ("Dateifehler!" on `fehler`).
+    // (its message on `fehler`), 2 any other fault ("Dateifehler!" on `fehler`, with the cause
+    // of a calculation fault below it), STATION_ERSETZT read but calculated on the default
+    // station because its own station file is missing (the climate message on `fehler`).
     int oeffnen(const std::string& pfad, std::ostream& fehler);
+
+    static constexpr int STATION_ERSETZT = 4;
 };

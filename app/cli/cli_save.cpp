@@ -25,7 +25,11 @@ int befehl_save(const std::vector<std::string>& args, std::ostream&, std::ostrea
     }
     KonsolenProgramm programm(klima, std::string());
     if (!quelle.empty()) {
+        // A project whose station is missing is not written on the stand-in station.
         const int status = programm.oeffnen(quelle, fehler);
+        if (status == KonsolenProgramm::STATION_ERSETZT) {
+            return 2;
+        }
         if (status != 0) {
             return status;
         }

@@ -2,6 +2,7 @@
 // velmaris-cli: the program's calculations without a display.
 #include "app/cli/befehle.h"
 #include "project/FatalError.h"
+#include "project/c_glob.h"
 
 #include <cstring>
 #include <iostream>
@@ -62,7 +63,7 @@ int main(int argc, char** argv) {
         hilfe(std::cerr);
         return 1;
     } catch (const FatalError& fehler) {
-        std::cerr << "velmaris-cli: " << fehler.what() << "\n";
+        std::cerr << "velmaris-cli: " << fehler.text(projekt().Sprache) << "\n";
         return 2;
     }
 }

@@ -83,6 +83,10 @@ TEST(Zeitkonstante, NegativeCapacityIsAClearFault) {
         FAIL() << "a negative capacity must not pass";
     } catch (const FatalError& e) {
         EXPECT_NE(std::string(e.what()).find("negative"), std::string::npos) << e.what();
+        // Told in the language of the run, with the value rounded to whole J/K.
+        EXPECT_EQ(e.text("e"), e.what());
+        EXPECT_EQ(e.text("d"), "Die wirksame Wärmekapazität wird negativ (Cwirk = -2848600 J/K): "
+                               "das Gebäude ist für seine Grundfläche zu hoch oder zu leicht.");
     }
 }
 

@@ -24,6 +24,23 @@ Lauf cli(const TempOrdner& ordner, const std::string& argumente) {
             datei_lesen(ordner.pfad() / "fehler.txt")};
 }
 
+// The file of the new project with some lines replaced (line number, text).
+std::string zeilen_ersetzen(std::string text, const std::vector<std::pair<int, std::string>>& neu) {
+    std::vector<std::string> z;
+    for (std::size_t a = 0, e = text.find("\r\n"); e != std::string::npos;
+         a = e + 2, e = text.find("\r\n", a)) {
+        z.push_back(text.substr(a, e - a));
+    }
+    for (const auto& [zeile, wert] : neu) {
+        z[static_cast<std::size_t>(zeile - 1)] = wert;
+    }
+    text.clear();
+    for (const std::string& s : z) {
+        text += s + "\r\n";
+    }
+    return text;
+}
+
 class CliProjekt : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -71,6 +88,52 @@ TEST_F(CliProjekt, WrongVersionAndReadFaults) {
     l = cli(ordner, "calc klein.vel");
     EXPECT_EQ(l.status, 2);
     EXPECT_EQ(l.fehler, "Dateifehler!\n");
+}
+
+TEST_F(CliProjekt, CalculationFaultWhileOpeningTellsItsCauseInTheLanguageOfTheRun) {
+    ASSERT_EQ(cli(ordner, "save neu.vel").status, 0);
+    // A tall, light building on a small floor: its effective heat capacity is negative.
+    ordner.schreiben(
+        "hoch.vel",
+        zeilen_ersetzen(datei_lesen(ordner.pfad() / "neu.vel"),
+                        {{2, " 2"}, {3, " 2"}, {4, " 50"}, {5, " 1"}, {57, " 2"}, {58, " 2"}}));
+    const struct {
+        const char* sprache;
+        const char* fehler;
+    } faelle[] = {
+        {"d", "Dateifehler!\n\nDie wirksame Wärmekapazität wird negativ (Cwirk = -968600 J/K): "
+              "das Gebäude ist für seine Grundfläche zu hoch oder zu leicht.\n"},
+        {"e", "Dateifehler!\n\nThe effective heat capacity comes out negative (Cwirk = -968600 "
+              "J/K): the building is too tall or too light for its floor area.\n"},
+    };
+    for (const auto& f : faelle) {
+        const Lauf l = cli(ordner, std::string("calc hoch.vel --sprache ") + f.sprache);
+        EXPECT_EQ(l.status, 2);
+        EXPECT_EQ(l.fehler, f.fehler);
+        EXPECT_TRUE(l.aus.empty());
+    }
+}
+
+TEST_F(CliProjekt, MissingStationFallsBackToTheDefaultWithItsMessageAndStatus4) {
+    ASSERT_EQ(cli(ordner, "save neu.vel").status, 0);
+    const std::string neu = datei_lesen(ordner.pfad() / "neu.vel");
+    ordner.schreiben("fehlt.vel", zeilen_ersetzen(neu, {{56, "gibtsnicht.met"}}));
+    const Lauf gewohnt = cli(ordner, "calc neu.vel");
+    ASSERT_EQ(gewohnt.status, 0);
+    const struct {
+        const char* sprache;
+        const char* fehler;
+    } faelle[] = {
+        {"d", "   Klimadatensatz nicht gefunden!\nDefault-Klimadatensatz wird geladen!\n"},
+        {"e", "     Climatic data not found!\nDefault climatic data will be loaded!\n"},
+    };
+    for (const auto& f : faelle) {
+        const Lauf l = cli(ordner, std::string("calc fehlt.vel --sprache ") + f.sprache);
+        EXPECT_EQ(l.status, 4);
+        EXPECT_EQ(l.fehler, f.fehler);
+        // The default station is the new project's own: the same results.
+        EXPECT_EQ(l.aus, gewohnt.aus);
+    }
 }
 
 TEST_F(CliProjekt, Version30IsWrittenAs32) {

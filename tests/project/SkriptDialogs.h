@@ -7,6 +7,7 @@
 #include "tests/support/Testprojekt.h"
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,10 +29,15 @@ public:
     std::vector<std::string> dialoge; // "oeffnen" or "speichern", with filter and index
     std::string titel;
     int erste_ebenen = 0;
+    // Runs while a message is shown, as a modal box runs the event loop.
+    std::function<void()> beim_melden;
 
     Antwort nachricht(const std::string& text, const std::string& t, Symbol symbol, Knoepfe knoepfe,
                       bool standard_nein) override {
         nachrichten.push_back({text, t, symbol, knoepfe, standard_nein});
+        if (beim_melden) {
+            beim_melden();
+        }
         if (knoepfe == Knoepfe::OK) {
             return Antwort::OK;
         }

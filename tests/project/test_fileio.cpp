@@ -32,6 +32,11 @@ std::string projektdatei(const Programm& prog,
     return aus;
 }
 
+// A tall, light building on a small floor: it reads, but its effective heat capacity comes out
+// negative, so its calculation fails.
+const std::vector<std::pair<int, std::string>> UNRECHENBAR = {{2, " 2"}, {3, " 2"},  {4, " 50"},
+                                                              {5, " 1"}, {57, " 2"}, {58, " 2"}};
+
 } // namespace
 
 TEST(FILEIO, StartBuildsTheNewProjectUnnamed) {
@@ -189,7 +194,7 @@ TEST(FILEIO, WrongVersionKeepsTheFormerProjectUnnamed) {
     EXPECT_EQ(prog.dialogs.nachrichten[1].titel, "Fehler");
     EXPECT_FLOAT_EQ(prog.p->l, 15.0f);
     EXPECT_EQ(prog.p->Datei, "default.vel");
-    EXPECT_EQ(prog.p->Datei_offen, 1);
+    EXPECT_EQ(prog.p->Datei_offen, 0);
     EXPECT_EQ(prog.p->FormLoadGuard, 0);
     EXPECT_EQ(prog.dialogs.titel, "Velmaris - [unbenannt]");
     EXPECT_EQ(prog.dialogs.erste_ebenen, 0);
@@ -328,5 +333,61 @@ TEST(FILEIO, MissingStationOfTheProjectFallsBackWithTheClimateMessage) {
         EXPECT_EQ(prog.dialogs.titel, "Velmaris - K.VEL");
         EXPECT_EQ(prog.p->FormLoadGuard, 0);
         EXPECT_GT(prog.p->qh, 0);
+    }
+}
+
+TEST(FILEIO, CalculationFaultWhileOpeningTellsItsCauseBelowTheMessage) {
+    const struct {
+        const char* sprache;
+        const char* text;
+        const char* titel;
+    } faelle[] = {
+        {"d", "Dateifehler!\n\nDie wirksame Wärmekapazität wird negativ (Cwirk = ",
+         "Velmaris - [unbenannt]"},
+        {"e", "Dateifehler!\n\nThe effective heat capacity comes out negative (Cwirk = ",
+         "Velmaris - [no name]"},
+    };
+    for (const auto& f : faelle) {
+        Programm prog(f.sprache);
+        prog.ordner.schreiben("hoch.vel", projektdatei(prog, UNRECHENBAR));
+        prog.io->datei_oeffnen(prog.pfad("hoch.vel"));
+        ASSERT_EQ(prog.dialogs.nachrichten.size(), 1u) << f.sprache;
+        EXPECT_EQ(prog.dialogs.nachrichten[0].text.rfind(f.text, 0), 0u)
+            << prog.dialogs.nachrichten[0].text;
+        EXPECT_EQ(prog.dialogs.nachrichten[0].titel, "Velmaris");
+        EXPECT_EQ(prog.dialogs.titel, f.titel);
+    }
+}
+
+TEST(FILEIO, SaveAfterAFailedOpenAsksForANameAndLeavesTheFileAlone) {
+    // A value beyond its scroll field, a calculation that fails, a file cut short, a wrong
+    // version line.
+    const std::vector<std::pair<std::string, std::vector<std::pair<int, std::string>>>> faelle = {
+        {"gross", {{2, " 60"}}}, {"hoch", UNRECHENBAR}, {"kurz", {}}, {"version", {}}};
+    for (const auto& [name, zeilen] : faelle) {
+        Programm prog;
+        // A named project first: the failed open must not leave it a trap either.
+        prog.dialogs.dateien = {prog.pfad("alt.vel")};
+        ASSERT_TRUE(prog.io->datei_speichern_unter());
+        std::string inhalt = projektdatei(prog, zeilen);
+        if (name == "kurz") {
+            inhalt.resize(inhalt.size() / 2);
+        } else if (name == "version") {
+            inhalt.replace(0, inhalt.find('\r'), "Velmaris Version 9.9");
+        }
+        prog.ordner.schreiben(name + ".vel", inhalt);
+        prog.io->datei_oeffnen(prog.pfad(name + ".vel"));
+        ASSERT_FALSE(prog.dialogs.nachrichten.empty()) << name;
+        EXPECT_EQ(prog.p->Datei_offen, 0) << name;
+        EXPECT_EQ(prog.dialogs.titel, "Velmaris - [unbenannt]") << name;
+
+        const std::size_t gefragt = prog.dialogs.dialoge.size();
+        prog.p->Geaendert = 1;
+        EXPECT_TRUE(prog.io->datei_speichern()) << name;
+        ASSERT_EQ(prog.dialogs.dialoge.size(), gefragt + 1) << name;
+        EXPECT_EQ(prog.dialogs.dialoge.back(), "speichern VELM Dateien (*.vel)|*.vel 1");
+        EXPECT_EQ(datei_lesen(prog.pfad(name + ".vel")), inhalt) << name;
+        EXPECT_EQ(datei_lesen(prog.pfad("alt.vel")).substr(0, 20), "Velmaris Version 3.2");
+        EXPECT_FALSE(fs::exists(prog.pfad("default.vel"))) << name;
     }
 }

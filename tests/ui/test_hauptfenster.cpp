@@ -20,6 +20,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionSlider>
 #include <QtTest>
 
 #include <filesystem>
@@ -59,6 +61,15 @@ class TestHauptfenster : public QObject {
         return w;
     }
     QWidget* ebene(int i) { return programm->haupt->eingabe[static_cast<std::size_t>(i)]; }
+    // A chart of each result plane.
+    std::vector<ChartWidget*> ergebnisdiagramme() {
+        return {programm->uebersicht_diagramme.Monatsbilanz,
+                programm->uebersicht_diagramme.Temperaturen,
+                programm->heizen_diagramme.Heizbilanz,
+                programm->kuehlen_diagramme.KuehlbedarfMonat,
+                programm->sankey_diagramme.Sankey,
+                programm->energie_diagramme.Monatsuebersicht};
+    }
 
 private slots:
     void initTestCase() { klima = klima_kopie(); }
@@ -417,7 +428,7 @@ private slots:
         finden<QScrollBar>(geo, "h_sb")->setSliderPosition(-500);
         QVERIFY2(!programm->fehler.empty(), "no fault");
         QCOMPARE(dialoge->nachrichten.back().text, programm->fehler);
-        QVERIFY(dialoge->nachrichten.back().text.find("negative") != std::string::npos);
+        QVERIFY(dialoge->nachrichten.back().text.find("negativ") != std::string::npos);
         auto* f_gd = finden<QLabel>(geo, "f_gd_anz");
         QVERIFY(f_gd->text().isEmpty());
         QVERIFY(!f_gd->isEnabled());
@@ -430,6 +441,132 @@ private slots:
         QCOMPARE(f_gd->text(), QStringLiteral(" 4,0"));
         QVERIFY(f_gd->isEnabled());
         QVERIFY(programm->geometrie_diagramme.AV_Picture->gueltig());
+    }
+
+    // One press on an arrow that trips the calculation, held while the message is up (a modal
+    // box runs the event loop, and with it the arrow's auto-repeat): one message, one step, and
+    // the fault state on every plane until a calculation succeeds.
+    void fehler_beim_pfeil_meldet_einmal() {
+        for (const char* sprache : {"d", "e"}) {
+            starten(sprache);
+            QWidget* geo = ebene(Hauptfenster::Geometrie);
+            QWidget* geb = ebene(Hauptfenster::Gebaeude);
+            auto* h_sb = finden<QScrollBar>(geo, "h_sb");
+            finden<QScrollBar>(geo, "l_sb")->setSliderPosition(20);
+            finden<QScrollBar>(geo, "b_sb")->setSliderPosition(20);
+            finden<QScrollBar>(geo, "ag_sb")->setSliderPosition(-1);
+            for (QComboBox* liste : geb->findChildren<QComboBox*>()) {
+                liste->setCurrentIndex(2);
+                emit liste->activated(2);
+            }
+            // The last height that still calculates: one step taller fails.
+            int hoehe = h_sb->value();
+            while (hoehe - 2 >= h_sb->minimum()) {
+                h_sb->setSliderPosition(hoehe - 2);
+                if (!programm->fehler.empty()) {
+                    break;
+                }
+                hoehe -= 2;
+            }
+            h_sb->setSliderPosition(hoehe);
+            QVERIFY2(programm->fehler.empty(), "no height that calculates");
+            QVERIFY(hoehe - 2 >= h_sb->minimum());
+
+            const std::size_t vorher = dialoge->nachrichten.size();
+            dialoge->beim_melden = [] { QTest::qWait(1500); };
+            QStyleOptionSlider opt;
+            opt.initFrom(h_sb);
+            opt.subControls = QStyle::SC_All;
+            opt.orientation = h_sb->orientation();
+            opt.minimum = h_sb->minimum();
+            opt.maximum = h_sb->maximum();
+            opt.sliderPosition = opt.sliderValue = h_sb->value();
+            opt.singleStep = h_sb->singleStep();
+            opt.pageStep = h_sb->pageStep();
+            opt.upsideDown = h_sb->invertedAppearance();
+            const QRect pfeil = h_sb->style()->subControlRect(QStyle::CC_ScrollBar, &opt,
+                                                              QStyle::SC_ScrollBarSubLine, h_sb);
+            QVERIFY(!pfeil.isEmpty());
+            QTest::mousePress(h_sb, Qt::LeftButton, {}, pfeil.center());
+            QTest::mouseRelease(h_sb, Qt::LeftButton, {}, pfeil.center());
+            QTest::qWait(300);
+            dialoge->beim_melden = nullptr;
+
+            QCOMPARE(dialoge->nachrichten.size(), vorher + 1);
+            QCOMPARE(h_sb->value(), hoehe - 2);
+            QCOMPARE(programm->p.h, static_cast<float>(-(hoehe - 2)) / 10.0f);
+            const std::string ursache = std::string(sprache) == "e"
+                                            ? "effective heat capacity comes out negative"
+                                            : "wirksame Wärmekapazität wird negativ";
+            QVERIFY(dialoge->nachrichten.back().text.find(ursache) != std::string::npos);
+
+            // Every result plane stays greyed, and showing a plane reports nothing again.
+            Hauptfenster& haupt = *programm->haupt;
+            for (int a = 0; a < 5; ++a) {
+                haupt.ausgabe_knopf[static_cast<std::size_t>(a)]->click();
+                QVERIFY(!haupt.ausgabe[static_cast<std::size_t>(a)]->isEnabled());
+            }
+            for (ChartWidget* c : ergebnisdiagramme()) {
+                QVERIFY(!c->gueltig());
+            }
+            haupt.eingabe_knopf[Hauptfenster::Gebaeude]->click();
+            haupt.eingabe_knopf[Hauptfenster::Geometrie]->click();
+            QCOMPARE(dialoge->nachrichten.size(), vorher + 1);
+            QVERIFY(finden<QLabel>(geo, "f_gd_anz")->text().isEmpty());
+            bild_speichern(haupt, QStringLiteral("rechenfehler_%1").arg(sprache));
+
+            // A change that calculates ends the fault state everywhere.
+            h_sb->setSliderPosition(hoehe);
+            QVERIFY(programm->fehler.empty());
+            for (int a = 0; a < 5; ++a) {
+                QVERIFY(haupt.ausgabe[static_cast<std::size_t>(a)]->isEnabled());
+            }
+            for (ChartWidget* c : ergebnisdiagramme()) {
+                QVERIFY(c->gueltig());
+            }
+            cleanup();
+        }
+    }
+
+    // Opening a project whose calculation fails: the open's message with the cause below it,
+    // the results greyed, and the next save asks for a name instead of writing over the file.
+    void rechenfehler_beim_oeffnen() {
+        starten("d");
+        QWidget* geo = ebene(Hauptfenster::Geometrie);
+        QWidget* geb = ebene(Hauptfenster::Gebaeude);
+        finden<QScrollBar>(geo, "l_sb")->setSliderPosition(20);
+        finden<QScrollBar>(geo, "b_sb")->setSliderPosition(20);
+        finden<QScrollBar>(geo, "ag_sb")->setSliderPosition(-1);
+        for (QComboBox* liste : geb->findChildren<QComboBox*>()) {
+            liste->setCurrentIndex(2);
+            emit liste->activated(2);
+        }
+        finden<QScrollBar>(geo, "h_sb")->setSliderPosition(-500);
+        QVERIFY(!programm->fehler.empty());
+        const std::string datei = (klima->pfad() / "hoch.vel").string();
+        dialoge->dateien = {datei};
+        programm->haupt->speichern_unter();
+        const std::string inhalt = datei_lesen(datei);
+        // A valid project first, so that the open has results to grey.
+        dialoge->antworten = {Dialogs::Antwort::Nein};
+        programm->haupt->neu();
+        QVERIFY(programm->bindungen->gueltig());
+
+        const std::size_t vorher = dialoge->nachrichten.size();
+        dialoge->dateien = {datei};
+        programm->haupt->oeffnen();
+        QCOMPARE(dialoge->nachrichten.size(), vorher + 1);
+        const std::string text = dialoge->nachrichten.back().text;
+        QVERIFY2(text.rfind("Dateifehler!\n\nDie wirksame Wärmekapazität wird negativ", 0) == 0,
+                 text.c_str());
+        QVERIFY(!programm->bindungen->gueltig());
+        QVERIFY(!programm->uebersicht_diagramme.Monatsbilanz->gueltig());
+        QCOMPARE(dialoge->titel, std::string("Velmaris - [unbenannt]"));
+        // Save asks for a name; cancelled, the file stays as it was.
+        const std::size_t dialoge_vorher = dialoge->dialoge.size();
+        programm->haupt->speichern();
+        QCOMPARE(dialoge->dialoge.size(), dialoge_vorher + 1);
+        QCOMPARE(datei_lesen(datei), inhalt);
     }
 
     // Every input plane paints in both languages; with VELMARIS_BILDER set, the pictures of
