@@ -1,7 +1,9 @@
 // The German map of the twelve climate regions: klima0.bmp without highlight and klima1.bmp ..
 // klima12.bmp with one region highlighted. The program finds the region under the mouse by
 // comparing colours with twelve fixed reference pixels, so every region has a colour of its own
-// and each reference pixel must lie inside its own region; both are checked before writing.
+// and each reference pixel must lie inside its own region; both are checked before writing, and
+// so is that the places of the region stations and of the large cities fall into regions that fit
+// them.
 'use strict';
 const fs = require('fs');
 const path = require('path');
@@ -37,10 +39,10 @@ const MEER = [225, 240, 250], AUSLAND = [238, 238, 232], UMRISS = [60, 60, 60], 
 function regionen(deutschland) {
   const lage = new Bild(BREITE, HOEHE, [0, 0, 0]);
   for (const [r, , ringe] of GEBIETE) lage.polygon(ringe.map((ring) => ring.map(([lon, lat]) => karte(lon, lat))), [r, 0, 0]);
-  const km = karte(10, 51)[1] - karte(10, 51 + 1 / 111.2)[1];
+  const pixel_je_km = karte(10, 51)[1] - karte(10, 51 + 1 / 111.2)[1];
   for (const [r, , lon, lat, radius] of BALLUNGSRAEUME) {
     const [mx, my] = karte(lon, lat);
-    const rp = radius * km;
+    const rp = radius * pixel_je_km;
     for (let y = Math.floor(my - rp); y <= Math.ceil(my + rp); y++) {
       for (let x = Math.floor(mx - rp); x <= Math.ceil(mx + rp); x++) {
         if ((x - mx) ** 2 + (y - my) ** 2 <= rp * rp) lage.setzen(x, y, [r, 0, 0]);
