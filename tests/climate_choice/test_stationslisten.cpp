@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace {
 
 // A station head without hourly rows: the list builder reads only the first lines.
@@ -126,4 +128,14 @@ TEST(Stationslisten, EchteStationsdateiWieSieDasProgrammSchreibt) {
     const auto [xe, ye] = europa_punkt(49.75, 6.64);
     EXPECT_NEAR(x, xe, 1e-4);
     EXPECT_NEAR(y, ye, 1e-4);
+}
+
+TEST(Stationslisten, GelieferteStationenTragenVerschiedeneNamen) {
+    // A name that appears twice in the lists would leave the user guessing which file it picks.
+    const Stationslisten l = stationslisten_bauen(std::string(VELMARIS_SOURCE_DIR) + "/klima");
+    ASSERT_GT(l.Welt.anzahl(), 60);
+    std::set<std::string> gesehen;
+    for (const std::string& name : l.Welt.Stationsname) {
+        EXPECT_TRUE(gesehen.insert(name).second) << name;
+    }
 }
