@@ -5,27 +5,24 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-pakete=(emscripten node-acorn cmake ninja-build nodejs)
+pakete=(emscripten node-acorn cmake ninja-build)
+# A newer Node.js than Debian's may stand in for the nodejs package.
+command -v node >/dev/null || pakete+=(nodejs)
 fehlend=()
 for p in "${pakete[@]}"; do
     if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
         fehlend+=("$p")
     fi
 done
-# A newer Node.js than Debian's may stand in for the nodejs package.
-if command -v node >/dev/null; then
-    fehlend=("${fehlend[@]/nodejs/}")
-fi
-if [ -n "${fehlend[*]// /}" ]; then
+if [ ${#fehlend[@]} -gt 0 ]; then
     echo "Installing: ${fehlend[*]}"
     als_root=()
     if [ "$(id -u)" -ne 0 ]; then
         als_root=(sudo)
     fi
     "${als_root[@]}" apt-get update -q
-    # shellcheck disable=SC2068
-    DEBIAN_FRONTEND=noninteractive "${als_root[@]}" apt-get install -y -q \
-        --no-install-recommends ${fehlend[@]}
+    DEBIAN_FRONTEND=noninteractive "${als_root[@]}" apt-get install -y -q --no-install-recommends \
+        "${fehlend[@]}"
 fi
 
 # The toolchain's optimiser finds Debian's acorn only through NODE_PATH.
