@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/numerisch.h"
 
-#include <charconv>
+#include "project/zahlwandlung.h"
+
 #include <string>
 
 double numerisch_lesen(std::string_view text) {
@@ -32,7 +33,7 @@ double numerisch_lesen(std::string_view text) {
         ++anfang;
     }
     double wert = 0;
-    std::from_chars(anfang, zahl.data() + zahl.size(), wert);
+    zahlwandlung::lesen(anfang, zahl.data() + zahl.size(), wert);
     return wert;
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planes/Zahlformat.h"
 
-#include <charconv>
+#include "project/zahlwandlung.h"
+
 #include <cmath>
 #include <cstdlib>
 
@@ -23,8 +24,8 @@ std::string formatieren(double wert, std::string_view muster, char dezimal, int 
     // Fifteen significant digits first, so that a float such as 2.85 (2.8499999) rounds as the
     // decimal number it stands for.
     char puffer[64];
-    const auto erg = std::to_chars(puffer, puffer + sizeof puffer, std::fabs(wert),
-                                   std::chars_format::scientific, genauigkeit - 1);
+    const auto erg = zahlwandlung::schreiben(puffer, puffer + sizeof puffer, std::fabs(wert),
+                                             std::chars_format::scientific, genauigkeit - 1);
     const std::string_view sci(puffer, static_cast<std::size_t>(erg.ptr - puffer));
     const std::size_t e = sci.find('e');
     const int exponent = std::atoi(std::string(sci.substr(e + 1)).c_str());

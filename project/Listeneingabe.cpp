@@ -2,10 +2,10 @@
 #include "project/Listeneingabe.h"
 
 #include "project/Laufzeitfehler.h"
+#include "project/zahlwandlung.h"
 
 #include <cctype>
 #include <cfloat>
-#include <charconv>
 #include <cmath>
 
 Listeneingabe::Listeneingabe(std::string_view text) : kanal_(std::string(text)) {}
@@ -76,7 +76,7 @@ double Listeneingabe::zahl() {
         throw fehler();
     }
     double wert = 0;
-    const auto erg = std::from_chars(norm.data(), norm.data() + norm.size(), wert);
+    const auto erg = zahlwandlung::lesen(norm.data(), norm.data() + norm.size(), wert);
     if (erg.ec == std::errc::result_out_of_range) {
         throw Laufzeitfehler(Laufzeitfehler::Ueberlauf,
                              "Overflow in line " + std::to_string(kanal_.zeilennummer()));

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/Zahltext.h"
 
-#include <charconv>
+#include "project/zahlwandlung.h"
+
 #include <cmath>
 
 namespace {
@@ -14,8 +15,8 @@ std::string sieben_stellen(double wert) {
     char puffer[64];
     // The general form switches to the exponent below 1E-4 and from 1E7 on, as the text
     // conversion of a 32-bit float does.
-    const auto ergebnis =
-        std::to_chars(puffer, puffer + sizeof puffer, wert, std::chars_format::general, 7);
+    const auto ergebnis = zahlwandlung::schreiben(puffer, puffer + sizeof puffer, wert,
+                                                  std::chars_format::general, 7);
     std::string text(puffer, ergebnis.ptr);
     const std::size_t e = text.find('e');
     if (e != std::string::npos) {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/cli/JsonWriter.h"
 
-#include <charconv>
+#include "project/zahlwandlung.h"
+
 #include <cmath>
 #include <cstdio>
 
@@ -54,7 +55,7 @@ void JsonWriter::value(float v) {
         return;
     }
     char puffer[32];
-    const auto ende = std::to_chars(puffer, puffer + sizeof puffer, v).ptr;
+    const auto ende = zahlwandlung::schreiben(puffer, puffer + sizeof puffer, v).ptr;
     text_.append(puffer, ende);
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/import/zahltext.h"
 
-#include <charconv>
+#include "project/zahlwandlung.h"
+
 #include <cmath>
 #include <cstdio>
 
@@ -53,7 +54,7 @@ bool dezimal_wert(std::string_view s, double& wert) {
         ++anfang;
     }
     double w = 0;
-    const auto [zeiger, fehler] = std::from_chars(anfang, ende, w);
+    const auto [zeiger, fehler] = zahlwandlung::lesen(anfang, ende, w);
     if (fehler != std::errc() || zeiger != ende || !std::isfinite(w)) {
         return false;
     }
