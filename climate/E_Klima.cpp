@@ -25,8 +25,7 @@ void laden(E_Klima& e, Projekt& p) {
         }
     }
     wetter_laden(p);
-    p.Klimainfo.Klimaname =
-        p.Klimaauswahl == 1 ? "Region " + e.Klimaregionwahl.Text : e.Klimaregionwahl2.Text;
+    klimaname_setzen(e, p);
 }
 
 void fehlt_melden(const Projekt& p, Dialogs& d) {
@@ -69,6 +68,11 @@ void stationsbereich(E_Klima& e, Projekt& p, Dialogs& d, int bereich) {
 }
 
 } // namespace
+
+void klimaname_setzen(const E_Klima& e, Projekt& p) {
+    p.Klimainfo.Klimaname =
+        p.Klimaauswahl == 1 ? "Region " + e.Klimaregionwahl.Text : e.Klimaregionwahl2.Text;
+}
 
 void Klimaliste::waehlen(int i) {
     ListIndex = i >= 0 && i < static_cast<int>(Eintraege.size()) ? i : -1;

@@ -46,8 +46,8 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
     // thumb.
     constexpr int HAUS_VERSATZ = 100;
     constexpr int HD_OBEN = 170;
-    QScrollBar* hd = balken(&e, Qt::Vertical, 236, HD_OBEN, 16,
-                            HAUS_VERSATZ + 1920 / TWIPS_JE_PIXEL - HD_OBEN);
+    QScrollBar* hd =
+        balken(&e, Qt::Vertical, 236, HD_OBEN, 16, HAUS_VERSATZ + 1920 / TWIPS_JE_PIXEL - HD_OBEN);
     QLabel* hd_anz = anzeige(&e, 258, 190, 60);
     QScrollBar* h = balken(&e, Qt::Vertical, 236, 0, 16, 0);
     text(&e, "Label22", "   Höhe     (ohne Dach):", 258, 216, 90, 30);
@@ -70,7 +70,8 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
 
     // Orientation: the sketch, the field and its compass letters.
     QGroupBox* frame2 = rahmen(&e, "Frame2", "Orientierung ", 4, 372, 170, 146);
-    text(frame2, "Label23", "Auslenkung aus der Südrichtung", 6, 16, 160);
+    // One line high, so that it ends where the compass letter N begins.
+    text(frame2, "Label23", "Auslenkung aus der Südrichtung", 6, 16, 160, 14);
     auto* lage = new ChartWidget(60, 60, frame2);
     lage->move(55, 42);
     text(frame2, "Label29", "N", 81, 30, 10, 12);

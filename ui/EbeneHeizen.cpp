@@ -120,7 +120,8 @@ HeizenDiagramme heizen_bauen(QWidget& e, const Projekt& p, const Diagrammeinstel
         QPalette pal = f->palette();
         pal.setColor(QPalette::Window, schluessel[static_cast<std::size_t>(i)].first);
         f->setPalette(pal);
-        const int y = OBEN + 78 + i * 30;
+        // The two-line second entry ends inside the plane.
+        const int y = OBEN + 74 + i * 26;
         f->setGeometry(LINKS, y + 3, 10, 10);
         text(&e, i == 0 ? "Label17" : "Label18", schluessel[static_cast<std::size_t>(i)].second,
              LINKS + 14, y, 150, 28)
