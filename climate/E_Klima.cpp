@@ -25,7 +25,8 @@ void laden(E_Klima& e, Projekt& p) {
         }
     }
     wetter_laden(p);
-    klimaname_setzen(e, p);
+    p.Klimainfo.Klimaname =
+        p.Klimaauswahl == 1 ? "Region " + e.Klimaregionwahl.Text : e.Klimaregionwahl2.Text;
 }
 
 void fehlt_melden(const Projekt& p, Dialogs& d) {
@@ -69,7 +70,14 @@ void stationsbereich(E_Klima& e, Projekt& p, Dialogs& d, int bereich) {
 
 } // namespace
 
-void klimaname_setzen(const E_Klima& e, Projekt& p) {
+void klima_zeigen(E_Klima& e, Projekt& p) {
+    int region = 0;
+    for (int i = 1; i <= KLIMAREGIONEN; ++i) {
+        if (p.Regionsdatei[i] == p.Klimadatei) {
+            region = i;
+        }
+    }
+    e.Picture1 = klimakarte(region);
     p.Klimainfo.Klimaname =
         p.Klimaauswahl == 1 ? "Region " + e.Klimaregionwahl.Text : e.Klimaregionwahl2.Text;
 }

@@ -111,6 +111,7 @@ void FILEIO::aufbauen() {
     neues_projekt();
     klimadatei_lesen(p_);
     eingaben_anzeigen(p_, e_, d_);
+    klima_zeigen(e_.klima, p_);
     p_.FormLoadGuard = 0;
     alles_berechnen(p_);
     d_.wartecursor(false);
@@ -168,8 +169,8 @@ void FILEIO::datei_oeffnen(const std::string& pfad) {
             wetter_laden(p_);
         }
         eingaben_anzeigen(p_, e_, d_);
-        // The station read above is named once its plane shows it.
-        klimaname_setzen(e_.klima, p_);
+        // The station read above is shown once its plane holds it.
+        klima_zeigen(e_.klima, p_);
         p_.FormLoadGuard = 0;
         alles_berechnen(p_);
         if (p_.Datei != UNBENANNT) {

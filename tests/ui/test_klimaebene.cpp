@@ -380,6 +380,16 @@ private slots:
         QCOMPARE(p.Klimadatei, p.Regionsdatei[3]);
         QCOMPARE(a_klima(&KlimaFelder::anz_klimaregion),
                  QStringLiteral("Region ") + f.Klimaregionwahl->itemText(2));
+        QCOMPARE(f.Picture1->property("bild").toString(), QStringLiteral("Grafiken/klima3.bmp"));
+
+        // File > New lists region 4 and highlights it on the map.
+        QTest::mouseClick(f.Picture1, Qt::LeftButton, Qt::NoModifier, QPoint(90, 220));
+        dialoge->antworten.push_back(Dialogs::Antwort::Nein);
+        programm->haupt->findChild<QAction*>(QStringLiteral("mnuFileNeu"))->trigger();
+        QCOMPARE(f.Klimaregionwahl->currentIndex(), 3);
+        QCOMPARE(f.Picture1->property("bild").toString(), QStringLiteral("Grafiken/klima4.bmp"));
+        QCOMPARE(a_klima(&KlimaFelder::anz_klimaregion),
+                 QStringLiteral("Region ") + f.Klimaregionwahl->itemText(3));
     }
 
     void fehlende_station_meldet_sich_beim_oeffnen_des_bereichs() {
