@@ -299,6 +299,14 @@ private slots:
         }};
         for (const auto& [name, w] : fenster) {
             QStringList uebrig;
+            // Controls whose English caption is their German one by design.
+            QStringList gleich;
+            for (const Beschriftung& b : beschriftungen(name)) {
+                if (!b.Steuerelement.empty() && b.Deutsch == b.Englisch) {
+                    gleich << QString::fromUtf8(b.Steuerelement.data(),
+                                                static_cast<int>(b.Steuerelement.size()));
+                }
+            }
             for (const Beschriftung& b : beschriftungen(name)) {
                 if (b.Deutsch.empty() || b.Deutsch == b.Englisch) {
                     continue;
@@ -306,6 +314,9 @@ private slots:
                 const QString deutsch =
                     QString::fromUtf8(b.Deutsch.data(), static_cast<int>(b.Deutsch.size()));
                 for (QObject* o : w->findChildren<QObject*>()) {
+                    if (gleich.contains(o->objectName())) {
+                        continue;
+                    }
                     const auto* l = qobject_cast<QLabel*>(o);
                     const auto* k = qobject_cast<QAbstractButton*>(o);
                     const auto* g = qobject_cast<QGroupBox*>(o);
