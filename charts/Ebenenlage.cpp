@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts/Ebenenlage.h"
 
+#include <algorithm>
 #include <cmath>
 
-Lagepunkt tooltip_lage(Lagepunkt zeiger) {
+Lagepunkt tooltip_lage(Lagepunkt zeiger, int rahmen_breite, int rahmen_hoehe, int ebene_breite,
+                       int ebene_hoehe) {
+    // The right and bottom edges are held before the left and top ones, so that a frame larger
+    // than the plane still shows its beginning.
     Lagepunkt l{zeiger.x - 5, zeiger.y - 20};
-    if (l.x < 0) {
-        l.x = 0;
-    }
+    l.x = std::max(0, std::min(l.x, ebene_breite - rahmen_breite));
+    l.y = std::max(0, std::min(l.y, ebene_hoehe - rahmen_hoehe));
     return l;
 }
 

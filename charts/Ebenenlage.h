@@ -12,8 +12,10 @@ struct Lagepunkt {
 };
 
 // The tooltip frame over a chart of the overview, heating or cooling plane, from the pointer
-// relative to the plane: 5 pixels left of and 20 above the pointer, never left of the plane.
-Lagepunkt tooltip_lage(Lagepunkt zeiger);
+// relative to the plane: 5 pixels left of and 20 above the pointer, moved back inside the plane
+// where it would stand out on any side.
+Lagepunkt tooltip_lage(Lagepunkt zeiger, int rahmen_breite, int rahmen_hoehe, int ebene_breite,
+                       int ebene_hoehe);
 
 // The frame over the energy plane's monthly chart stands left of the pointer (its own width
 // plus 5) and 20 above it, never left of the plane; if it would end below the plane it moves up

@@ -115,16 +115,24 @@ void texte(Surface& s, const Projekt& p, const SankeyHeizenMasse& m, const Texte
         tx.mitte(tx.t("Erneuerbare Energien", "renewable energies"), x, 0, true);
         tx.mitte(tx.wert(std::fabs(m.TV)), x, 12, true);
     }
-    tx.mitte(tx.t("nutzbare solare Gewinne", "usable solar gains"), 215, 0);
-    tx.mitte(tx.wert(p.qsols), 215, 12);
+    // The solar label stands right of the band's middle, clear of the long label of the
+    // transformation losses on its left.
+    tx.mitte(tx.t("nutzbare solare Gewinne", "usable solar gains"), 240, 0);
+    tx.mitte(tx.wert(p.qsols), 240, 12);
     tx.rechts(tx.t("Lüftungsverluste", "ventilation losses"), 415, 0);
     tx.rechts(tx.wert(p.qinfs), 415, 12);
     if (m.bSV >= 0) {
-        tx.rechts(tx.t("Verluste Heizungssystem", "losses of the heating"), 123, m.yA + 5);
-        tx.rechts(tx.wert(m.SV), 123, m.yA + 17);
+        const std::string verluste = tx.t("Verluste Heizungssystem", "losses of the heating");
+        const double rechts = std::max(123.0, s.TextWidth(verluste) + 2);
+        tx.rechts(verluste, rechts, m.yA + 5);
+        tx.rechts(tx.wert(m.SV), rechts, m.yA + 17);
     } else {
-        tx.rechts(tx.t("Gewinne aus der Umwelt", "gains from environment"), 103, m.yA + 5);
-        tx.rechts(tx.wert(std::fabs(m.SV)), 103, m.yA + 17);
+        // Ends at 103 where it fits; a longer text moves right so that it begins inside, as
+        // the losses above do at 123.
+        const std::string umwelt = tx.t("Gewinne aus der Umwelt", "gains from environment");
+        const double rechts = std::max(103.0, s.TextWidth(umwelt) + 2);
+        tx.rechts(umwelt, rechts, m.yA + 5);
+        tx.rechts(tx.wert(std::fabs(m.SV)), rechts, m.yA + 17);
     }
     tx.mitte(tx.t("nutzbare interne Gewinne", "usable internal gains"), 200, H - 25);
     tx.mitte(tx.wert(p.qis), 200, H - 13);

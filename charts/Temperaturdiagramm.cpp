@@ -145,16 +145,24 @@ void TemperaturDiagrammZeichnen(const Projekt& p, Surface& s, const Diagrammeins
     // One grid line per step; the lowest is the horizontal axis.
     if (stufe > 0 && spanne >= 0 && spanne / stufe <= 1000) {
         const int schritte = static_cast<int>(std::nearbyint(spanne / stufe));
+        // On a low chart the numbers are written on every second (third ...) line only, so
+        // that they stand apart; the lowest line keeps its number.
+        const double abstand = yf * stufe;
+        const int jede =
+            abstand > 0 ? std::max(1, static_cast<int>(std::ceil(s.TextHeight("0") / abstand))) : 1;
         for (int i = 0; i <= schritte; ++i) {
             const double T = achse_unten + i * stufe;
             const double y = Y_(T, y_ursprung, yf);
             s.Line(links, y, rechts, y, i == 0 ? t.achsen : t.gitter);
-            std::string zahl = std::to_string(static_cast<long>(std::nearbyint(T)));
-            rechtsbuendig(s, zahl, links - 3, y - s.TextHeight(zahl) / 2);
+            if (i % jede == 0) {
+                std::string zahl = std::to_string(static_cast<long>(std::nearbyint(T)));
+                rechtsbuendig(s, zahl, links - 3, y - s.TextHeight(zahl) / 2);
+            }
         }
     }
+    // The unit ends above the top number.
     s.CurrentX = 5;
-    s.CurrentY = oben - 8 - s.TextHeight("°C") / 2;
+    s.CurrentY = oben - 6 - s.TextHeight("°C");
     s.Print("°C");
 
     kurve(s, p, Temperaturreihe::Aussenluft, m, links, xf, y_ursprung, yf, t.kuehlen);

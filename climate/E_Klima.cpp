@@ -70,6 +70,18 @@ void stationsbereich(E_Klima& e, Projekt& p, Dialogs& d, int bereich) {
 
 } // namespace
 
+void klima_zeigen(E_Klima& e, Projekt& p) {
+    int region = 0;
+    for (int i = 1; i <= KLIMAREGIONEN; ++i) {
+        if (p.Regionsdatei[i] == p.Klimadatei) {
+            region = i;
+        }
+    }
+    e.Picture1 = klimakarte(region);
+    p.Klimainfo.Klimaname =
+        p.Klimaauswahl == 1 ? "Region " + e.Klimaregionwahl.Text : e.Klimaregionwahl2.Text;
+}
+
 void Klimaliste::waehlen(int i) {
     ListIndex = i >= 0 && i < static_cast<int>(Eintraege.size()) ? i : -1;
     Text = ListIndex >= 0 ? Eintraege[static_cast<std::size_t>(ListIndex)] : std::string();

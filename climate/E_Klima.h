@@ -45,6 +45,10 @@ struct E_Klima {
 // Builds the plane: the region rows, the station lists of p.KlimaOrdner, the German map without
 // highlight and a random source seeded from the system.
 void E_Klima_erstellen(E_Klima& e, const Projekt& p);
+// After a project was opened or begun, whose station was read without the plane: the German map
+// highlights the station's region (none for another station), and the climate information plane
+// names the station by the list of its scope as the plane shows it now.
+void klima_zeigen(E_Klima& e, Projekt& p);
 
 // The three option handlers; each does nothing when fired with its option off (`an` false).
 // They set Klimaauswahl, show their scope and reconcile Klimadatei with it: a station that is in

@@ -64,6 +64,8 @@ void E_Geometrie::Check_Dachgeschoss_Click() {
         h_sb_Top = 1920;
         h_sb_Height = 1200;
         Picture3 = Option_Dachfirst.Value(1) ? "Grafiken/haus1.bmp" : "Grafiken/haus2.bmp";
+        // The labels over the picture take their places at once, not only at a ridge click.
+        dachbeschriftung(Option_Dachfirst.Value(1) ? 1 : 2);
         daemmung_.liste2.Caption = englisch ? "roof" : "Dach";
     }
     hd_sb.Visible = c;
@@ -80,28 +82,33 @@ void E_Geometrie::Option_Dachfirst_Click(int index) {
     if (Check_Dachgeschoss.Value() != 1) {
         return;
     }
-    const bool englisch = p_.Sprache == "e";
     Picture3 = "Grafiken/haus" + std::to_string(index) + ".bmp";
+    dachbeschriftung(index);
+    alles_berechnen(p_);
+}
+
+void E_Geometrie::dachbeschriftung(int index) {
+    const bool englisch = p_.Sprache == "e";
     auto setzen = [](Label& l, int left, int top) {
         l.Left = left;
         l.Top = top;
     };
+    // Each value stands under its caption, inside the picture.
     if (index == 1) {
         Label9.Caption = englisch ? "roof area (west):" : "Dachfläche (West):";
         setzen(Label9, 48, 26);
         Label6.Caption = englisch ? "gable:" : "Giebel";
         setzen(Label6, 72, 88);
         setzen(dachflaeche_anz, 24, 76);
-        setzen(Giebel_anz, 72, 88);
+        setzen(Giebel_anz, 72, 102);
     } else if (index == 2) {
         Label9.Caption = englisch ? "gable:" : "Giebel:";
         setzen(Label9, 56, 4);
         Label6.Caption = englisch ? "roof area (south):" : "Dachfläche (Süd):";
         setzen(Label6, 68, 48);
         setzen(dachflaeche_anz, 80, 84);
-        setzen(Giebel_anz, -10, 70);
+        setzen(Giebel_anz, 56, 18);
     }
-    alles_berechnen(p_);
 }
 
 void E_Geometrie::anzeigen() {

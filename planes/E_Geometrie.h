@@ -63,6 +63,8 @@ public:
     void Option_Dachfirst_Click(int index);
 
 private:
+    // Captions and places of the labels over the house picture for ridge `index`.
+    void dachbeschriftung(int index);
     void groesse_geaendert(float& feld, double wert);
     void orient_geaendert();
 

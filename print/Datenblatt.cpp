@@ -114,10 +114,10 @@ void gebaeude(Druckseite& s) {
               s.wert(p.infiltration, "0.00") + " 1/h", 35);
     wertzeile(s, s.t("Mechanische Lüftung:", "Mechanical ventilation:"),
               s.wert(p.lw, "0.00") + " 1/h", 35);
-    wertzeile(s, s.t("Wärmerückgewinnung:", "Heat recovery:"),
-              s.wert(static_cast<double>(p.WRG) * 100, "0") + " %", 35);
     wertzeile(s, s.t("Interne Gewinne:", "Internal gains:"), s.wert(p.intg, "0.0") + " kWh/(m² a)");
     wertzeile(s, s.t("Überwärmung ab:", "Limit of overheating:"), s.wert(p.Tueber, "0.0") + " °C");
+    wertzeile(s, s.t("Wärmerückgewinnung:", "Heat recovery:"),
+              s.wert(static_cast<double>(p.WRG) * 100, "0") + " %");
     wertzeile(s, s.t("Art der Außenwände:", "Kind of outdoor walls:"),
               listentext(s.e.gebaeude.Aussenwandart.Eintraege, p.Aussenwandart));
     wertzeile(s, s.t("Art der Innenwände:", "Kind of indoor walls:"),

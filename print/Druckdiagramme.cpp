@@ -295,5 +295,4 @@ void Diagramm_Kuehlenergie(Drucker& d, const Projekt& p) {
             sprachtext(p.Sprache, "Endenergiebedarf", "End energy demand"));
     legende(d, 140, 219, DRUCK_PRIMAER_STROM,
             sprachtext(p.Sprache, "Primärenergiebedarf", "Primary energy demand"));
-    drucken_bei(d, 140, 224, sprachtext(p.Sprache, "(Strom)", "(electricity)"));
 }

@@ -104,8 +104,12 @@ void Seite_Kuehlbilanz(Druckseite& s) {
     }
     regel(s, s.y - 0.5);
     s.y += 0.5;
-    tabellenzeile(s, s.t("Jahresmittel / Jahressumme", "Yearly mean / yearly sum"), anker,
-                  {kuehl, kuehl / p.f_nutz, heiss / 365, grad}, stellen, DRUCKZEILE);
+    // The long row header is set smaller, so that a sum of five digits still stands clear of it.
+    const double groesse = s.d.FontSize;
+    s.d.FontSize = 8;
+    drucken_bei(s.d, 26, s.y + 0.5, s.t("Jahresmittel / Jahressumme", "Yearly mean / yearly sum"));
+    s.d.FontSize = groesse;
+    tabellenzeile(s, "", anker, {kuehl, kuehl / p.f_nutz, heiss / 365, grad}, stellen, DRUCKZEILE);
     regel(s, s.y);
     Diagramm_Kuehlen(s.d, p);
 }

@@ -113,6 +113,7 @@ void FILEIO::aufbauen() {
     neues_projekt();
     klimadatei_lesen(p_);
     eingaben_anzeigen(p_, e_, d_);
+    klima_zeigen(e_.klima, p_);
     p_.FormLoadGuard = 0;
     alles_berechnen(p_);
     d_.wartecursor(false);
@@ -170,6 +171,8 @@ void FILEIO::datei_oeffnen(const std::string& pfad) {
             wetter_laden(p_);
         }
         eingaben_anzeigen(p_, e_, d_);
+        // The station read above is shown once its plane holds it.
+        klima_zeigen(e_.klima, p_);
         p_.FormLoadGuard = 0;
         alles_berechnen(p_);
         if (p_.Datei != UNBENANNT) {

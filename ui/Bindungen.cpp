@@ -205,6 +205,10 @@ void Bindungen::label(QLabel& l, const Label& modell, Art art, int massstab) {
         const QString text = leer ? QString() : QString::fromStdString(modell.Caption);
         if (l.text() != text && !(art == Art::Entwurf && modell.Caption.empty())) {
             l.setText(text);
+            // A caption that the plane places takes the width of its text.
+            if (art == Art::Entwurf && massstab > 0) {
+                l.adjustSize();
+            }
         }
         if (art == Art::Ergebnis) {
             aktiv_setzen(l, gueltig_);

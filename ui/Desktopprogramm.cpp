@@ -35,8 +35,12 @@ Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
     : p(projekt()), klimaordner(datenordner("klima")),
       import_dialoge(std::make_unique<QtImportDialoge>()),
       dialoge_(dialoge != nullptr ? dialoge : &qt_dialoge_), sprachwahl_(std::move(sprachwahl)) {
-    // The planes were laid out for the small system sans of 8 points.
-    QApplication::setFont(QtImageSurface::schrift("MS Sans Serif", 8.25, false));
+    // The planes were laid out for the small system sans of 8 points. Unlike the charts, whose
+    // pixels are exact, the controls' texts are smoothed: unsmoothed, the small face breaks
+    // words apart ("Dämm ung").
+    QFont schrift = QtImageSurface::schrift("MS Sans Serif", 8.25, false);
+    schrift.setStyleStrategy(QFont::PreferAntialias);
+    QApplication::setFont(schrift);
 }
 
 Desktopprogramm::~Desktopprogramm() {
@@ -414,6 +418,11 @@ void Desktopprogramm::nach_aktion() {
         if (c->isVisible()) {
             c->update();
         }
+    }
+    // The enlarged temperature course follows every change while it is open.
+    if (zoom && zoom->isVisible()) {
+        zoom->Temperaturen->zeichnen();
+        zoom->Temperaturen->update();
     }
 }
 

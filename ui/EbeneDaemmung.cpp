@@ -8,23 +8,29 @@
 using namespace bau;
 
 void daemmung_bauen(QWidget& e, E_Daemmung& d, Ebenenbau& bau) {
-    // A row of a scroll field with its display.
-    auto reihe = [](QWidget* eltern, int x, int y, int breite) {
-        return std::make_pair(balken(eltern, Qt::Horizontal, x, y, breite, 16),
-                              anzeige(eltern, x + breite + 6, y - 1, 50));
+    // A row of a scroll field with its display, the displays in one column at x 232 and the
+    // unit beside them.
+    auto reihe = [](QWidget* eltern, int x, int y, const char* einheit = nullptr) {
+        constexpr int ANZEIGE = 232;
+        if (einheit != nullptr) {
+            text(eltern, nullptr, einheit, ANZEIGE + 54, y);
+        }
+        return std::make_pair(balken(eltern, Qt::Horizontal, x, y, ANZEIGE - 6 - x, 16),
+                              anzeige(eltern, ANZEIGE, y - 1, 50));
     };
+    const char* const U = "W/(m²K)";
     QGroupBox* frame3 = rahmen(&e, "Frame3", "U-Werte der Wände", 4, 4, 344, 98);
     text(frame3, "Label3", "Nord:", 8, 18);
     text(frame3, "Label14", "Süd:", 8, 38);
     text(frame3, "Label29", "Ost:", 8, 58);
     text(frame3, "Label32", "West:", 8, 78);
-    const auto kwn = reihe(frame3, 50, 18, 220), kws = reihe(frame3, 50, 38, 220);
-    const auto kwo = reihe(frame3, 50, 58, 220), kww = reihe(frame3, 50, 78, 220);
+    const auto kwn = reihe(frame3, 50, 18, U), kws = reihe(frame3, 50, 38, U);
+    const auto kwo = reihe(frame3, 50, 58, U), kww = reihe(frame3, 50, 78, U);
 
     QGroupBox* frame1 = rahmen(&e, "Frame1", "Tür (Nordfassade)", 4, 104, 344, 58);
     text(frame1, "Label1", "Fläche:", 8, 18);
     text(frame1, "Label2", "U-Wert:", 8, 38);
-    const auto ft = reihe(frame1, 70, 18, 200), kt = reihe(frame1, 70, 38, 200);
+    const auto ft = reihe(frame1, 70, 18, "m²"), kt = reihe(frame1, 70, 38, U);
 
     // The upper closure: its caption is a label that the roof logic rewrites.
     QGroupBox* oben = rahmen(&e, nullptr, "", 4, 164, 344, 86);
@@ -33,17 +39,17 @@ void daemmung_bauen(QWidget& e, E_Daemmung& d, Ebenenbau& bau) {
     QComboBox* ogd = liste(oben, 70, 18, 200);
     QComboBox* ogd_dach = liste(oben, 70, 18, 200);
     text(oben, "Label19", "U-Wert:", 8, 44);
-    const auto kd = reihe(oben, 70, 44, 200);
+    const auto kd = reihe(oben, 70, 44, U);
     QCheckBox* hdach = check(oben, "cbk_hDach", "Hinterlüftetes Dach", 8, 64, 200);
 
     QGroupBox* frame2 = rahmen(&e, "Frame2", "Untere Geschoßdecke", 4, 252, 344, 62);
     text(frame2, "Label15", "gegen . . .", 8, 20);
     QComboBox* ugd = liste(frame2, 70, 18, 200);
     text(frame2, "Label16", "U-Wert:", 8, 42);
-    const auto kk = reihe(frame2, 70, 42, 200);
+    const auto kk = reihe(frame2, 70, 42, U);
 
     QGroupBox* frame4 = rahmen(&e, "Frame4", "Absorptionskoeffizient der Wände", 4, 316, 344, 40);
-    const auto abs = reihe(frame4, 8, 18, 262);
+    const auto abs = reihe(frame4, 8, 18);
 
     QGroupBox* frame5 = rahmen(&e, "Frame5", "Wärmebrücken", 4, 358, 344, 130);
     QRadioButton* wb1 =

@@ -50,9 +50,11 @@ void fenster_bauen(QWidget& e, E_Fenster& f, Ebenenbau& bau) {
         z.flaeche = anzeige(frame10, 272, y, 64);
         z.knopf = knopf(&e, KNOPF_NAMEN[static_cast<std::size_t>(i)],
                         FASSADEN[static_cast<std::size_t>(i)], 6 + 86 * i, 158, 84, 22);
-        // One panel per facade, all at the same place; the south one carries the frame title.
+        // One panel per facade, all at the same place; the south one, which stands for all
+        // facades alike, is titled by the window type, the others by their facade.
         z.panel = rahmen(&e, RAHMEN_NAMEN[static_cast<std::size_t>(i)],
-                         i == Sued ? "Fenstertyp" : "", 4, 182, 344, 214);
+                         i == Sued ? "Fenstertyp" : FASSADEN[static_cast<std::size_t>(i)], 4, 182,
+                         344, 214);
         z.typ = liste(z.panel, 8, 18, 328);
         const std::array<const char*, 5> titel{"U-Wert Glas", "U-Wert Rahmen", "g-Wert",
                                                "Rahmenanteil", "Verschattung"};

@@ -28,13 +28,15 @@ QFrame* gewicht(QWidget* eltern, int x, QColor farbe) {
 
 void gebaeude_bauen(QWidget& e, E_Gebaeude& g, Ebenenbau& bau) {
     QGroupBox* frame3 = rahmen(&e, "Frame3", "Soll-Raumlufttemperatur", 4, 4, 170, 44);
-    QScrollBar* troom = balken(frame3, Qt::Horizontal, 8, 20, 100, 16);
-    QLabel* troom_anz = anzeige(frame3, 114, 19, 48);
+    QScrollBar* troom = balken(frame3, Qt::Horizontal, 8, 20, 84, 16);
+    QLabel* troom_anz = anzeige(frame3, 98, 19, 44);
+    text(frame3, nullptr, "°C", 146, 20);
     QGroupBox* frame7 = rahmen(&e, "Frame7", "Überwärmungsgrenze", 178, 4, 170, 92);
     text(frame7, "Label19", "Überwärmung bei einer Raumtemperatur größer als . . .", 8, 18, 156,
          44);
-    QScrollBar* tueber = balken(frame7, Qt::Horizontal, 8, 66, 100, 16);
-    QLabel* tueber_anz = anzeige(frame7, 114, 65, 48);
+    QScrollBar* tueber = balken(frame7, Qt::Horizontal, 8, 66, 84, 16);
+    QLabel* tueber_anz = anzeige(frame7, 98, 65, 44);
+    text(frame7, nullptr, "°C", 146, 66);
     QGroupBox* frame2 = rahmen(&e, "Frame2", "Interne Gewinne", 4, 52, 170, 44);
     QScrollBar* intg = balken(frame2, Qt::Horizontal, 8, 20, 64, 16);
     QLabel* intg_anz = anzeige(frame2, 76, 19, 40);
@@ -44,12 +46,15 @@ void gebaeude_bauen(QWidget& e, E_Gebaeude& g, Ebenenbau& bau) {
     text(frame4, "Label5", "Freie Lüftung:", 8, 18);
     text(frame4, "Label1", "Mechanische Lüftung:", 8, 38);
     text(frame4, "Label4", "Wärmerückgewinnung:", 8, 58);
-    QScrollBar* inf = balken(frame4, Qt::Horizontal, 140, 18, 136, 16);
-    QScrollBar* lw = balken(frame4, Qt::Horizontal, 140, 38, 136, 16);
-    QScrollBar* wrg = balken(frame4, Qt::Horizontal, 140, 58, 136, 16);
-    QLabel* inf_anz = anzeige(frame4, 282, 17, 54);
-    QLabel* lw_anz = anzeige(frame4, 282, 37, 54);
-    QLabel* wrg_anz = anzeige(frame4, 282, 57, 54);
+    QScrollBar* inf = balken(frame4, Qt::Horizontal, 140, 18, 110, 16);
+    QScrollBar* lw = balken(frame4, Qt::Horizontal, 140, 38, 110, 16);
+    QScrollBar* wrg = balken(frame4, Qt::Horizontal, 140, 58, 110, 16);
+    QLabel* inf_anz = anzeige(frame4, 256, 17, 50);
+    QLabel* lw_anz = anzeige(frame4, 256, 37, 50);
+    QLabel* wrg_anz = anzeige(frame4, 256, 57, 50);
+    text(frame4, nullptr, "1/h", 310, 18);
+    text(frame4, nullptr, "1/h", 310, 38);
+    text(frame4, nullptr, "%", 310, 58);
 
     QGroupBox* frame6 = rahmen(&e, "Frame6", "Art der Außenwände", 4, 186, 170, 48);
     QComboBox* aussen = liste(frame6, 8, 18, 154);
@@ -65,6 +70,9 @@ void gebaeude_bauen(QWidget& e, E_Gebaeude& g, Ebenenbau& bau) {
     QGroupBox* frame9 = rahmen(&e, "Frame9", "Effizienzfaktor Klimaanlage", 4, 304, 170, 70);
     text(frame9, "Label9", "Kühl", 8, 18);
     text(frame9, "Label10", "Strom", 8, 34);
+    // The unit of both parts of the fraction.
+    text(frame9, nullptr, "kWh", 48, 18);
+    text(frame9, nullptr, "kWh", 48, 34);
     QScrollBar* klima = balken(frame9, Qt::Horizontal, 8, 50, 100, 16);
     QLabel* klima_anz = anzeige(frame9, 114, 49, 48);
 
@@ -74,9 +82,11 @@ void gebaeude_bauen(QWidget& e, E_Gebaeude& g, Ebenenbau& bau) {
     QFrame* gewicht2 = gewicht(traeg, 18, QColor(128, 128, 128));
     QGroupBox* frame8 = rahmen(traeg, "Frame8", "Wirksame ", 62, 18, 102, 110);
     text(frame8, "Label7", "Speicherfähigkeit", 6, 18);
-    QLabel* cwirk = anzeige(frame8, 6, 40, 88);
-    QLabel* cges = anzeige(frame8, 6, 64, 88);
-    text(frame8, nullptr, "Wh/(m³ K)", 6, 84);
+    // Each value with its unit under it.
+    QLabel* cwirk = anzeige(frame8, 6, 36, 88);
+    text(frame8, nullptr, "Wh/(m³ K)", 6, 54);
+    QLabel* cges = anzeige(frame8, 6, 72, 88);
+    text(frame8, nullptr, "kWh/K", 6, 90);
 
     bau.binden.push_back([=, &g](Bindungen& bd) {
         bd.scroll(*troom, g.Troom_sb);

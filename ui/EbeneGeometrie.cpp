@@ -40,7 +40,14 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
     QScrollBar* ag = balken(&e, Qt::Vertical, 20, 206, 16, 100);
     QLabel* ag_anz = anzeige(&e, 40, 250, 26);
     text(&e, "Label4", "Dachhöhe:", 258, 172);
-    QScrollBar* hd = balken(&e, Qt::Vertical, 236, 190, 16, 26);
+    // The house block stands 100 pixels lower than the design's twips, under the A/V frame; the
+    // height field keeps its twips inside the block, and the roof field fills the room between
+    // the A/V frame and the top of the height field with a roof: 58 pixels, two arrows and a
+    // thumb.
+    constexpr int HAUS_VERSATZ = 100;
+    constexpr int HD_OBEN = 170;
+    QScrollBar* hd =
+        balken(&e, Qt::Vertical, 236, HD_OBEN, 16, HAUS_VERSATZ + 1920 / TWIPS_JE_PIXEL - HD_OBEN);
     QLabel* hd_anz = anzeige(&e, 258, 190, 60);
     QScrollBar* h = balken(&e, Qt::Vertical, 236, 0, 16, 0);
     text(&e, "Label22", "   Höhe     (ohne Dach):", 258, 216, 90, 30);
@@ -63,7 +70,8 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
 
     // Orientation: the sketch, the field and its compass letters.
     QGroupBox* frame2 = rahmen(&e, "Frame2", "Orientierung ", 4, 372, 170, 146);
-    text(frame2, "Label23", "Auslenkung aus der Südrichtung", 6, 16, 160);
+    // One line high, so that it ends where the compass letter N begins.
+    text(frame2, "Label23", "Auslenkung aus der Südrichtung", 6, 16, 160, 14);
     auto* lage = new ChartWidget(60, 60, frame2);
     lage->move(55, 42);
     text(frame2, "Label29", "N", 81, 30, 10, 12);
@@ -133,7 +141,7 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
             frame3->setEnabled(g.Frame3_Enabled);
             label4->setVisible(g.Label4.Visible);
             // The height field is shorter while the roof field stands over it.
-            const QRect ort(236, 80 + g.h_sb_Top / TWIPS_JE_PIXEL, 16,
+            const QRect ort(236, HAUS_VERSATZ + g.h_sb_Top / TWIPS_JE_PIXEL, 16,
                             g.h_sb_Height / TWIPS_JE_PIXEL);
             if (h->geometry() != ort) {
                 h->setGeometry(ort);

@@ -101,7 +101,16 @@ HeizenDiagramme heizen_bauen(QWidget& e, const Projekt& p, const Diagrammeinstel
             *balken[i][j] = c;
         }
     }
-    zeilentext(&e, "Label19", " N      S     O     W", LINKS + 6, OBEN + 58, 10);
+    // Each facade letter centred under its own pair of bars.
+    constexpr std::array<std::pair<const char*, int>, 4> buchstaben{
+        {{"N", 10}, {"S", 20}, {"O", 21}, {"W", 22}}};
+    for (int i = 0; i < 4; ++i) {
+        const auto& [b, zeile] = buchstaben[static_cast<std::size_t>(i)];
+        QLabel* l =
+            zeilentext(&e, i == 0 ? "Label19" : nullptr, b, LINKS + 4 + i * 40, OBEN + 58, zeile);
+        l->setGeometry(LINKS + 4 + i * 40, OBEN + 58, 2 * BALKEN_BREITE + 2, 14);
+        l->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    }
     const std::array<std::pair<QColor, const char*>, 2> schluessel{
         {{gelb, "nutzbare solare Gewinne"},
          {dunkelblau, "Transmissionsverluste über die Fenster"}}};
@@ -111,7 +120,8 @@ HeizenDiagramme heizen_bauen(QWidget& e, const Projekt& p, const Diagrammeinstel
         QPalette pal = f->palette();
         pal.setColor(QPalette::Window, schluessel[static_cast<std::size_t>(i)].first);
         f->setPalette(pal);
-        const int y = OBEN + 78 + i * 30;
+        // The two-line second entry ends inside the plane.
+        const int y = OBEN + 74 + i * 26;
         f->setGeometry(LINKS, y + 3, 10, 10);
         text(&e, i == 0 ? "Label17" : "Label18", schluessel[static_cast<std::size_t>(i)].second,
              LINKS + 14, y, 150, 28)

@@ -12,6 +12,7 @@
 #include <QFrame>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextEdit>
 
 namespace {
@@ -128,6 +129,9 @@ void ReportFenster::Seite_Click(int i) {
     const Reportquelle q{p_, ebenen_, dezimal, qt_textmass()};
     report_text = report_der_sprache(q, static_cast<int16_t>(i));
     rtf_darstellen(*Report1->document(), rtf_lesen(report_text));
+    // A page is read from its head.
+    Report1->moveCursor(QTextCursor::Start);
+    Report1->verticalScrollBar()->setValue(0);
 }
 
 void ReportFenster::Command_Speichern_Click() {

@@ -83,7 +83,9 @@ void Tooltiprahmen::zeigen() {
     if (lage) {
         Frame_ToolTip->move(lage(auf_ebene));
     } else {
-        const Lagepunkt ort = tooltip_lage({auf_ebene.x(), auf_ebene.y()});
+        const Lagepunkt ort =
+            tooltip_lage({auf_ebene.x(), auf_ebene.y()}, Frame_ToolTip->width(),
+                         Frame_ToolTip->height(), ebene_.width(), ebene_.height());
         Frame_ToolTip->move(ort.x, ort.y);
     }
     Frame_ToolTip->raise();

@@ -7,12 +7,26 @@
 
 namespace {
 
-TEST(Ebenenlage, TooltipStandsAboveLeftOfThePointerAndNeverLeftOfThePlane) {
-    const Lagepunkt l = tooltip_lage({100, 80});
-    EXPECT_EQ(l.x, 95);
-    EXPECT_EQ(l.y, 60);
-    EXPECT_EQ(tooltip_lage({3, 80}).x, 0);
-    EXPECT_EQ(tooltip_lage({3, 10}).y, -10); // only the left side is held
+TEST(Ebenenlage, TooltipStandsAboveLeftOfThePointerAndStaysInsideThePlane) {
+    struct Fall {
+        Lagepunkt zeiger;
+        int x, y;
+    };
+    // A frame of 120 x 60 on a plane of 450 x 400.
+    const Fall faelle[] = {
+        {{100, 80}, 95, 60},   // ordinary place
+        {{3, 80}, 0, 60},      // held at the left edge
+        {{100, 10}, 95, 0},    // held at the top
+        {{440, 80}, 330, 60},  // a year chart at the right edge: held inside
+        {{300, 395}, 295, 340} // held at the bottom
+    };
+    for (const Fall& f : faelle) {
+        const Lagepunkt l = tooltip_lage(f.zeiger, 120, 60, 450, 400);
+        EXPECT_EQ(l.x, f.x) << f.zeiger.x;
+        EXPECT_EQ(l.y, f.y) << f.zeiger.y;
+    }
+    // Wider than the plane: its beginning shows.
+    EXPECT_EQ(tooltip_lage({200, 80}, 500, 60, 450, 400).x, 0);
 }
 
 TEST(Ebenenlage, EnergyTooltipStandsLeftOfThePointerAndMovesUpAtTheBottom) {

@@ -107,9 +107,9 @@ TEST(Sprache, MenuChoiceTakesEffectAtTheNextStart) {
 
 TEST(Sprache, CaptionTablesHoldEveryTextOfTheirWindow) {
     const std::pair<const char*, std::size_t> umfang[] = {
-        {"Haupt", 22},         {"E_Menue", 6},      {"E_Geometrie", 28}, {"E_Fenster", 37},
+        {"Haupt", 22},         {"E_Menue", 6},      {"E_Geometrie", 28}, {"E_Fenster", 40},
         {"E_Daemmung", 22},    {"E_Gebaeude", 19},  {"E_Klima", 12},     {"E_Energie", 14},
-        {"A_Menue", 5},        {"A_Uebersicht", 5}, {"A_Klima", 23},     {"A_Heizen", 20},
+        {"A_Menue", 5},        {"A_Uebersicht", 5}, {"A_Klima", 23},     {"A_Heizen", 23},
         {"A_Kuehlen", 3},      {"A_Sankey", 2},     {"A_Report", 2},     {"A_Zoom", 1},
         {"E_Klimaimport", 19}, {"Drucken", 12}};
     for (const auto& [fenster, anzahl] : umfang) {
@@ -125,7 +125,7 @@ TEST(Sprache, CaptionTablesHoldEveryTextOfTheirWindow) {
         tetraeder = tetraeder || (b.Steuerelement == "Label11" && b.Englisch == "tethrahed.");
     }
     EXPECT_TRUE(tetraeder);
-    EXPECT_EQ(beschriftungen("A_Heizen")[10].Englisch, " N      S     E     W");
+    EXPECT_EQ(beschriftungen("A_Heizen")[21].Englisch, "E"); // the east bar pair
 }
 
 TEST(Sprache, PlanesFillTheirListsInTheLanguageOfTheRun) {

@@ -67,14 +67,23 @@ TEST(E_Geometrie, RidgeLogic) {
     EXPECT_EQ(g.Picture3, "Grafiken/haus0.bmp");
     g.Check_Dachgeschoss.klicken();
     EXPECT_EQ(g.Picture3, "Grafiken/haus2.bmp");
+    // The first tick places the labels over the picture for the ridge already set.
+    EXPECT_EQ(g.Label9.Caption, "gable:");
+    EXPECT_EQ(g.Label6.Left, 68);
+    EXPECT_EQ(g.Label6.Top, 48);
+    EXPECT_EQ(g.dachflaeche_anz.Left, 80);
     g.Option_Dachfirst.setzen(1);
     EXPECT_EQ(g.Picture3, "Grafiken/haus1.bmp");
     EXPECT_EQ(g.Label9.Caption, "roof area (west):");
     EXPECT_EQ(g.Label6.Caption, "gable:");
+    // The gable value stands under its caption, not on it.
+    EXPECT_EQ(g.Giebel_anz.Left, g.Label6.Left);
+    EXPECT_GT(g.Giebel_anz.Top, g.Label6.Top);
     g.Option_Dachfirst.setzen(2);
     EXPECT_EQ(g.Label6.Caption, "roof area (south):");
-    EXPECT_EQ(g.Giebel_anz.Left, -10);
-    EXPECT_EQ(g.Giebel_anz.Top, 70);
+    // Under "gable:" and inside the picture.
+    EXPECT_EQ(g.Giebel_anz.Left, g.Label9.Left);
+    EXPECT_GT(g.Giebel_anz.Top, g.Label9.Top);
     EXPECT_EQ(prog.p->Dachfirst, 2);
 }
 

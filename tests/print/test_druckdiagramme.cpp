@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <cmath>
 
 namespace {
@@ -109,6 +111,17 @@ TEST(Diagramm_Jahresbilanz, ABarBeyondTheScalePassesTheBox) {
     const auto b = balken(d);
     erwarte(b[4], DRUCK_HEIZEN, 162, 205, 171, 205 - 200 * 0.8);
     EXPECT_LT(b[4].y2, 139);
+}
+
+TEST(Diagramm_Kuehlenergie, TheLegendHasItsTwoEntriesAndNoMore) {
+    auto p = projekt_mit_monaten();
+    p->Klimaeffizienz = 2.5f;
+    p->Monat[7].Kuehlbedarf = 500;
+    RecordingPrinter d;
+    Diagramm_Kuehlenergie(d, *p);
+    const auto texte = d.texte();
+    EXPECT_EQ(std::count(texte.begin(), texte.end(), "Primärenergiebedarf"), 1);
+    EXPECT_EQ(std::count(texte.begin(), texte.end(), "(Strom)"), 0);
 }
 
 TEST(Diagramm_Monatbilanz, MonthBarsSideBySideEightMillimetresApart) {

@@ -144,6 +144,21 @@ TEST(Ausdrucken, TheDataSheetAloneIsTwoPagesOfTwo) {
     EXPECT_TRUE(gedruckt(d, "- Page 2 / 2 -", 2));
 }
 
+TEST(Ausdrucken, HeatRecoveryFollowsTheOverheatingLimitOutsideTheVentilationBlock) {
+    TempOrdner ordner;
+    Druckprojekt dp(ordner, "d");
+    RecordingPrinter d;
+    Ausdrucken(d, *dp.p, *dp.e, nur({1}), ',', "1.1.2026");
+    const auto t = d.texte(1);
+    const auto wo = [&](const char* text) {
+        return std::find(t.begin(), t.end(), text) - t.begin();
+    };
+    ASSERT_LT(wo("Überwärmung ab:"), static_cast<long>(t.size()));
+    // The limit's value stands between them.
+    EXPECT_EQ(wo("Wärmerückgewinnung:"), wo("Überwärmung ab:") + 2);
+    EXPECT_EQ(d.prints("Wärmerückgewinnung:").at(0).x1, d.prints("Überwärmung ab:").at(0).x1);
+}
+
 TEST(Ausdrucken, LaterOptionsAloneAreNumberedFromOne) {
     TempOrdner ordner;
     Druckprojekt dp(ordner, "d");

@@ -243,6 +243,12 @@ private slots:
         QTest::mouseClick(z.Monatsbutton[1], Qt::LeftButton);
         QCOMPARE(programm->p.Monat_Uebersicht, int16_t{2});
         QCOMPARE(u.AktiverMonat->geometry(), u.Monatsbutton[1]->geometry());
+        // An input change while the window is open draws the new course at once.
+        const QImage vorher = z.Temperaturen->flaeche().bild();
+        programm->haupt->eingabe[Hauptfenster::Geometrie]
+            ->findChild<QScrollBar*>(QStringLiteral("h_sb"))
+            ->setSliderPosition(-300);
+        QVERIFY(z.Temperaturen->flaeche().bild() != vorher);
         QTest::mouseClick(z.Command_Schliessen, Qt::LeftButton);
         QVERIFY(!z.isVisible());
     }

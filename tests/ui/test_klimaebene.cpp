@@ -4,9 +4,11 @@
 // their dots, hover and clicks, the scrolled world map, the enlarged world map, the fallback of a
 // missing station and the climate labels of both planes.
 #include "climate/E_Klima.h"
+#include "climate/klimaregionen.h"
 #include "climate/stationskarten.h"
 #include "planes/Zahlformat.h"
 #include "project/c_glob.h"
+#include "project/projektdatei.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
 #include "tests/ui/Uitesthilfe.h"
@@ -15,6 +17,7 @@
 #include "ui/Uebersetzen.h"
 #include "ui/ZoomKlima.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -357,6 +360,39 @@ private slots:
         QCOMPARE(f.Klimaregionwahl2->currentIndex(), j);
         QCOMPARE(a_klima(&KlimaFelder::anz_klimaregion),
                  QString::fromStdString(l.Stationsname[static_cast<std::size_t>(j)]));
+    }
+
+    // Opening a project names its own station, not the one picked last on the plane.
+    void geoeffnetes_projekt_nennt_seine_station() {
+        starten("d");
+        const KlimawahlFelder& f = programm->klimawahl_felder;
+        Projekt& p = programm->p;
+        waehlen(f.Option[0]);
+        QTest::keyClicks(f.plz, QStringLiteral("20095"));
+        QTest::keyClick(f.plz, Qt::Key_Return);
+        QCOMPARE(p.Klimadatei, p.Regionsdatei[3]);
+        TempOrdner ablage;
+        const auto pfad = ablage.schreiben("region3.vel", datei_schreiben(p));
+        QTest::mouseClick(f.Picture1, Qt::LeftButton, Qt::NoModifier, QPoint(90, 220));
+        QCOMPARE(p.Klimadatei, p.Regionsdatei[5]);
+        dialoge->antworten.push_back(Dialogs::Antwort::Nein);
+        dialoge->dateien.push_back(pfad.string());
+        programm->haupt->findChild<QAction*>(QStringLiteral("mnuFileOeffnen"))->trigger();
+        QCOMPARE(p.Klimadatei, p.Regionsdatei[3]);
+        QCOMPARE(a_klima(&KlimaFelder::anz_klimaregion),
+                 QStringLiteral("Region ") + f.Klimaregionwahl->itemText(2));
+        QCOMPARE(f.Picture1->property("bild").toString(), QStringLiteral("Grafiken/klima3.bmp"));
+
+        // File > New: the map highlights the new project's region, no other.
+        dialoge->antworten.push_back(Dialogs::Antwort::Nein);
+        programm->haupt->findChild<QAction*>(QStringLiteral("mnuFileNeu"))->trigger();
+        int region = 0;
+        for (int i = 1; i <= KLIMAREGIONEN; ++i) {
+            region = p.Regionsdatei[i] == p.Klimadatei ? i : region;
+        }
+        QVERIFY(region > 0);
+        QCOMPARE(f.Picture1->property("bild").toString(),
+                 QStringLiteral("Grafiken/klima%1.bmp").arg(region));
     }
 
     void fehlende_station_meldet_sich_beim_oeffnen_des_bereichs() {

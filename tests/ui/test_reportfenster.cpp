@@ -17,6 +17,7 @@
 #include <QFrame>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextEdit>
 #include <QTimer>
 #include <QtTest>
@@ -79,6 +80,9 @@ private slots:
             QCOMPARE(f.report_text, report_schreiben(quelle(), 1));
             QVERIFY(f.Report1->toPlainText().contains(QStringLiteral("Datenblatt")));
             QVERIFY(f.Report1->toPlainText().contains(QStringLiteral("Länge der Nord")));
+            // Page 1 opens at its head.
+            QCOMPARE(f.Report1->verticalScrollBar()->value(), 0);
+            QVERIFY(f.Report1->verticalScrollBar()->maximum() > 0);
             bild_speichern(f, QStringLiteral("report_d_seite1"));
 
             QTest::mouseClick(f.Seite[3], Qt::LeftButton);
@@ -86,6 +90,7 @@ private slots:
             QVERIFY(f.AktSeite->y() < f.Seite[3]->y());
             QCOMPARE(f.report_text, report_schreiben(quelle(), 4));
             QVERIFY(f.Report1->toPlainText().contains(QStringLiteral("Tramsmis-")));
+            QCOMPARE(f.Report1->verticalScrollBar()->value(), 0);
             bild_speichern(f, QStringLiteral("report_d_seite4"));
 
             // A cancelled dialog writes nothing and keeps the page.

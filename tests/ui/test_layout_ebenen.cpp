@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The layout check of the planes' real widgets on the offscreen platform, both languages, on the
+// layout cases: no two input widgets overlap, no widget leaves its plane or frame, no caption is
+// cut by its field and no two captions of a plane overlap.
+#include "project/c_glob.h"
+#include "project/projektdatei.h"
+#include "tests/layout/Layoutfaelle.h"
+#include "tests/project/SkriptDialogs.h"
+#include "tests/support/Testprojekt.h"
+#include "tests/ui/Uitesthilfe.h"
+#include "ui/Desktopprogramm.h"
+#include "ui/Hauptfenster.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStyle>
+#include <QtTest>
+
+#include <fstream>
+
+namespace {
+
+// Widgets that touch, or stand out of their parent, on purpose: by object name, or by caption
+// in quotes; a name ending in "(" stands for all of an array. `b` null: `a` stands out.
+struct Ausnahme {
+    const char* a;
+    const char* b;
+    const char* grund;
+};
+
+const Ausnahme AUSNAHMEN[] = {
+    {"Monatsbutton(", "Monatsbutton(",
+     "the month buttons of the overview each reach one pixel into the next"},
+    {"AktiverMonat1", nullptr,
+     "the marker of the chosen month lies on its button and its inner field is one pixel larger"},
+};
+
+QString name(const QWidget* w) {
+    if (!w->objectName().isEmpty()) {
+        return w->objectName();
+    }
+    if (const auto* l = qobject_cast<const QLabel*>(w)) {
+        return QStringLiteral("\"%1\"").arg(l->text());
+    }
+    return QString::fromUtf8(w->metaObject()->className());
+}
+
+bool passt(const QWidget* w, const char* v) {
+    const QString n = name(w), m = QString::fromUtf8(v);
+    return m.endsWith(QLatin1Char('(')) ? n.startsWith(m) : n == m;
+}
+
+// Whether a and b (b null: a standing out) are listed.
+bool ausgenommen(const QWidget* a, const QWidget* b) {
+    for (const Ausnahme& x : AUSNAHMEN) {
+        if (b == nullptr ? x.b == nullptr && passt(a, x.a)
+                         : x.b != nullptr && ((passt(a, x.a) && passt(b, x.b)) ||
+                                              (passt(a, x.b) && passt(b, x.a)))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool eingabe(const QWidget* w) {
+    return qobject_cast<const QAbstractSlider*>(w) || qobject_cast<const QComboBox*>(w) ||
+           qobject_cast<const QAbstractButton*>(w) || qobject_cast<const QLineEdit*>(w) ||
+           qobject_cast<const QAbstractSpinBox*>(w);
+}
+
+// Where the text of a caption is drawn, in the coordinates of `ebene`; empty for a picture or an
+// empty caption.
+QRect textfeld(const QLabel* l, const QWidget* ebene) {
+    if (l->text().trimmed().isEmpty() || !l->pixmap().isNull() || l->textFormat() == Qt::RichText) {
+        return {};
+    }
+    const QRect innen = l->contentsRect();
+    const int flags = static_cast<int>(l->alignment()) | (l->wordWrap() ? Qt::TextWordWrap : 0);
+    const QRect r = l->fontMetrics().boundingRect(innen, flags, l->text());
+    return QRect(l->mapTo(ebene, r.topLeft()), r.size());
+}
+
+// The faults of one plane as it stands.
+QStringList pruefen(QWidget* ebene, const QString& ort) {
+    QStringList fehler;
+    QList<QWidget*> sichtbar;
+    for (QWidget* w : ebene->findChildren<QWidget*>()) {
+        if (w->isVisibleTo(ebene) && !w->isWindow() &&
+            !qobject_cast<QAbstractSpinBox*>(w->parentWidget()) &&
+            !qobject_cast<QComboBox*>(w->parentWidget())) {
+            sichtbar.push_back(w);
+        }
+    }
+    for (QWidget* w : sichtbar) {
+        QWidget* eltern = w->parentWidget();
+        if (!eltern->rect().contains(w->geometry()) && !ausgenommen(w, nullptr)) {
+            fehler << QStringLiteral("%1: %2 (%3,%4 %5x%6) leaves %7")
+                          .arg(ort, name(w))
+                          .arg(w->x())
+                          .arg(w->y())
+                          .arg(w->width())
+                          .arg(w->height())
+                          .arg(name(eltern));
+        }
+        if (const auto* sb = qobject_cast<const QScrollBar*>(w)) {
+            // Room for both arrows and a thumb that can move.
+            const int noetig =
+                2 * sb->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, sb) +
+                sb->style()->pixelMetric(QStyle::PM_ScrollBarSliderMin, nullptr, sb);
+            const int laenge = sb->orientation() == Qt::Vertical ? sb->height() : sb->width();
+            if (laenge < noetig) {
+                fehler << QStringLiteral("%1: scroll field %2 is %3 px long, below %4")
+                              .arg(ort, name(w))
+                              .arg(laenge)
+                              .arg(noetig);
+            }
+        }
+        if (const auto* l = qobject_cast<const QLabel*>(w)) {
+            const QRect t = textfeld(l, l);
+            if (!t.isEmpty() && !l->contentsRect().adjusted(-1, -1, 1, 1).contains(t)) {
+                fehler << QStringLiteral("%1: caption %2 is cut by its field (%3 of %4 px wide, "
+                                         "%5 of %6 high)")
+                              .arg(ort, name(w))
+                              .arg(t.width())
+                              .arg(l->contentsRect().width())
+                              .arg(t.height())
+                              .arg(l->contentsRect().height());
+            }
+        }
+    }
+    for (int i = 0; i < sichtbar.size(); ++i) {
+        for (int j = i + 1; j < sichtbar.size(); ++j) {
+            QWidget* a = sichtbar[i];
+            QWidget* b = sichtbar[j];
+            if (ausgenommen(a, b)) {
+                continue;
+            }
+            if (eingabe(a) && eingabe(b) && !a->isAncestorOf(b) && !b->isAncestorOf(a)) {
+                const QRect ra(a->mapTo(ebene, QPoint(0, 0)), a->size());
+                const QRect rb(b->mapTo(ebene, QPoint(0, 0)), b->size());
+                if (ra.intersects(rb)) {
+                    fehler << QStringLiteral("%1: input fields %2 and %3 overlap")
+                                  .arg(ort, name(a), name(b));
+                }
+            }
+            const auto* la = qobject_cast<const QLabel*>(a);
+            const auto* lb = qobject_cast<const QLabel*>(b);
+            if (la != nullptr && lb != nullptr) {
+                const QRect ta = textfeld(la, ebene), tb = textfeld(lb, ebene);
+                if (!ta.isEmpty() && !tb.isEmpty() && ta.adjusted(1, 1, -1, -1).intersects(tb)) {
+                    fehler << QStringLiteral("%1: captions %2 and %3 overlap")
+                                  .arg(ort, name(a), name(b));
+                }
+            }
+        }
+    }
+    return fehler;
+}
+
+} // namespace
+
+class TestLayoutEbenen : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TempOrdner> klima;
+
+private slots:
+    void initTestCase() { klima = klima_kopie(); }
+
+    void ebenen_data() {
+        QTest::addColumn<int>("fall");
+        QTest::addColumn<QString>("sprache");
+        for (int f = 0; f < static_cast<int>(layoutfaelle().size()); ++f) {
+            for (const char* s : {"d", "e"}) {
+                QTest::newRow(QStringLiteral("%1_%2")
+                                  .arg(layoutfaelle()[static_cast<std::size_t>(f)].name, s)
+                                  .toUtf8()
+                                  .constData())
+                    << f << QString::fromUtf8(s);
+            }
+        }
+    }
+
+    // Every input and output plane after opening the case, as a user sees it.
+    void ebenen() {
+        QFETCH(int, fall);
+        QFETCH(QString, sprache);
+        SkriptDialogs dialoge;
+        auto programm = programm_starten(&dialoge, *klima, sprache.toUtf8().constData());
+        const Layoutfall& lf = layoutfaelle()[static_cast<std::size_t>(fall)];
+        TempOrdner ablage;
+        {
+            auto p = leeres_projekt();
+            *p = programm->p;
+            lf.aendern(*p);
+            const auto pfad = ablage.pfad() / "fall.vel";
+            std::ofstream(pfad, std::ios::binary) << datei_schreiben(*p);
+            dialoge.dateien.push_back(pfad.string());
+        }
+        programm->haupt->findChild<QAction*>(QStringLiteral("mnuFileOeffnen"))->trigger();
+        QVERIFY2(programm->fehler.empty(), programm->fehler.c_str());
+        Hauptfenster& haupt = *programm->haupt;
+        QStringList fehler;
+        for (int i = 0; i < 6; ++i) {
+            haupt.eingabe_knopf[static_cast<std::size_t>(i)]->click();
+            fehler << pruefen(haupt.eingabe[static_cast<std::size_t>(i)],
+                              QStringLiteral("%1 %2").arg(lf.name).arg(
+                                  haupt.eingabe[static_cast<std::size_t>(i)]->objectName()));
+            bild_speichern(haupt, QStringLiteral("layout_%1_%2_e%3").arg(lf.name, sprache).arg(i));
+        }
+        for (int i = 0; i < 5; ++i) {
+            haupt.ausgabe_knopf[static_cast<std::size_t>(i)]->click();
+            fehler << pruefen(haupt.ausgabe[static_cast<std::size_t>(i)],
+                              QStringLiteral("%1 %2").arg(lf.name).arg(
+                                  haupt.ausgabe[static_cast<std::size_t>(i)]->objectName()));
+            bild_speichern(haupt, QStringLiteral("layout_%1_%2_a%3").arg(lf.name, sprache).arg(i));
+        }
+        fehler.removeDuplicates();
+        for (const QString& f : fehler) {
+            qWarning("%s", qPrintable(f));
+        }
+        QVERIFY2(fehler.isEmpty(),
+                 qPrintable(QStringLiteral("%1 layout faults").arg(fehler.size())));
+    }
+};
+
+QTEST_MAIN(TestLayoutEbenen)
+#include "test_layout_ebenen.moc"
