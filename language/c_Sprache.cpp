@@ -8,8 +8,6 @@
 #include "project/Listeneingabe.h"
 #include "project/c_glob.h"
 
-#include <fstream>
-
 namespace {
 
 struct Monatsname {
