@@ -18,41 +18,40 @@
 
 namespace {
 
-struct Offen {
-    std::unique_ptr<Projekt> p = [] {
-        auto neu = std::make_unique<Projekt>();
-        neu->Sprache = "d";
-        neues_projekt(*neu);
-        return neu;
+// Opens `text` as the program does right after its start, on a new project with fresh planes and
+// the station folder empty so that no climate is read; every input starts from the same state.
+bool oeffnen(Projekt& p, Dialogs& dialogs, std::string_view text) {
+    static const auto neu = [] {
+        auto n = std::make_unique<Projekt>();
+        n->Sprache = "d";
+        neues_projekt(*n);
+        return n;
     }();
-    Eingabeflaechen ebenen{*p};
-};
-
-// Opens `text` as the program does, with the station folder empty so that no climate is read.
-bool oeffnen(Offen& o, Dialogs& dialogs, std::string_view text) {
-    o.p->FormLoadGuard = -1;
-    o.p->Klimaauswahl = 0;
-    if (!datei_lesen(*o.p, o.ebenen, dialogs, text)) {
+    p = *neu;
+    Eingabeflaechen ebenen(p);
+    p.FormLoadGuard = -1;
+    p.Klimaauswahl = 0;
+    if (!datei_lesen(p, ebenen, dialogs, text)) {
         return false;
     }
-    o.p->Klimaauswahl = 0;
-    eingaben_anzeigen(*o.p, o.ebenen, dialogs);
+    p.Klimaauswahl = 0;
+    eingaben_anzeigen(p, ebenen, dialogs);
     return true;
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t laenge) {
-    static Offen erstes;
-    static Offen zweites;
+    static auto erstes = std::make_unique<Projekt>();
+    static auto zweites = std::make_unique<Projekt>();
     static StummeDialogs dialogs;
     std::string geschrieben;
     try {
-        if (!oeffnen(erstes, dialogs,
+        if (!oeffnen(*erstes, dialogs,
                      std::string_view(reinterpret_cast<const char*>(daten), laenge))) {
             return 0;
         }
-        geschrieben = datei_schreiben(*erstes.p);
+        geschrieben = datei_schreiben(*erstes);
     } catch (const Laufzeitfehler&) {
         return 0;
     } catch (const FatalError&) {
@@ -61,11 +60,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t laenge) {
     // A file the program wrote must open again and save unchanged.
     bool gelesen = false;
     try {
-        gelesen = oeffnen(zweites, dialogs, geschrieben);
+        gelesen = oeffnen(*zweites, dialogs, geschrieben);
     } catch (const Laufzeitfehler&) {
     } catch (const FatalError&) {
     }
-    if (!gelesen || datei_schreiben(*zweites.p) != geschrieben) {
+    if (!gelesen || datei_schreiben(*zweites) != geschrieben) {
         __builtin_trap();
     }
     return 0;

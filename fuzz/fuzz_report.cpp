@@ -21,16 +21,19 @@
 #include <string_view>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t laenge) {
-    static auto p = [] {
+    static const auto basis = [] {
         auto neu = std::make_unique<Projekt>();
         neu->Sprache = "d";
         neues_projekt(*neu);
         klimadatei_lesen(*neu, station_text(Stationskopf{}, synthetisches_wetter), "synthetisch");
         return neu;
     }();
-    static Eingabeflaechen ebenen(*p);
+    static auto p = std::make_unique<Projekt>();
     static StummeDialogs dialogs;
-    // The station folder is empty: the synthetic climate read once stays the climate.
+    // Every input starts from the new project on the synthetic climate, with fresh planes; the
+    // station folder is empty, so that the climate stays.
+    *p = *basis;
+    Eingabeflaechen ebenen(*p);
     p->FormLoadGuard = -1;
     p->Klimaauswahl = 0;
     try {
