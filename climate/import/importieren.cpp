@@ -169,7 +169,8 @@ void quelle_annehmen(Klimaimport& f, const std::string& pfad, std::string_view t
                      std::string& Datei) {
     Datei = pfad;
     f.DateinameBox = pfad;
-    const std::vector<std::string_view> zeilen = zeilen_teilen(text);
+    // Only the preview's lines are looked at here.
+    const std::vector<std::string_view> zeilen = zeilen_teilen(text, VORSCHAU_ZEILEN);
     const std::size_t vorschau = std::min<std::size_t>(zeilen.size(), VORSCHAU_ZEILEN);
     f.Dateiansicht.clear();
     for (std::size_t i = 0; i < vorschau; ++i) {
