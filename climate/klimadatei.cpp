@@ -5,13 +5,13 @@
 #include "climate/klimainfo.h"
 #include "climate/monatsstrahlung.h"
 #include "climate/numerisch.h"
+#include "project/Dateizugriff.h"
 #include "project/FatalError.h"
+#include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"
 #include "project/checked.h"
 
-#include <fstream>
 #include <memory>
-#include <sstream>
 
 namespace {
 
@@ -46,10 +46,10 @@ void dachraum_setzen(Projekt& p) {
 
 } // namespace
 
-std::vector<std::string_view> zeilen_teilen(std::string_view text) {
+std::vector<std::string_view> zeilen_teilen(std::string_view text, std::size_t hoechstens) {
     std::vector<std::string_view> zeilen;
     std::size_t anfang = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    for (std::size_t i = 0; i < text.size() && zeilen.size() < hoechstens; ++i) {
         if (text[i] == '\r' || text[i] == '\n') {
             zeilen.push_back(text.substr(anfang, i - anfang));
             if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
@@ -58,7 +58,7 @@ std::vector<std::string_view> zeilen_teilen(std::string_view text) {
             anfang = i + 1;
         }
     }
-    if (anfang < text.size()) {
+    if (anfang < text.size() && zeilen.size() < hoechstens) {
         zeilen.push_back(text.substr(anfang));
     }
     return zeilen;
@@ -72,18 +72,29 @@ void monatslaengen_setzen(Projekt& p) {
 
 void klimadatei_lesen(Projekt& p) {
     const std::string pfad = p.KlimaOrdner + "/" + p.Klimadatei;
-    std::ifstream datei(pfad, std::ios::binary);
-    if (!datei) {
+    std::string text;
+    try {
+        text = datei_text(pfad, KLIMADATEI_HOECHSTGROESSE + 1);
+    } catch (const Laufzeitfehler&) {
         throw FatalError("The station file \"" + pfad + "\" cannot be opened.");
     }
-    std::ostringstream inhalt;
-    inhalt << datei.rdbuf();
-    klimadatei_lesen(p, inhalt.str(), pfad);
+    // Lines past 8766 are never used, so a longer file reads as far as a valid one can reach.
+    if (text.size() > KLIMADATEI_HOECHSTGROESSE) {
+        text.resize(KLIMADATEI_HOECHSTGROESSE);
+        if (zeilen_teilen(text, KLIMADATEI_ZEILEN + 1).size() <=
+            static_cast<std::size_t>(KLIMADATEI_ZEILEN)) {
+            throw FatalError("The station file \"" + pfad + "\" does not end its line " +
+                             std::to_string(KLIMADATEI_ZEILEN) + " within its first " +
+                             std::to_string(KLIMADATEI_HOECHSTGROESSE >> 20) +
+                             " MB; it is no station file.");
+        }
+    }
+    klimadatei_lesen(p, text, pfad);
 }
 
 void klimadatei_lesen(Projekt& p, std::string_view text, const std::string& name) {
     monatslaengen_setzen(p);
-    const std::vector<std::string_view> zeilen = zeilen_teilen(text);
+    const std::vector<std::string_view> zeilen = zeilen_teilen(text, KLIMADATEI_ZEILEN);
     if (zeilen.size() < static_cast<std::size_t>(KLIMADATEI_ZEILEN)) {
         throw FatalError("The station file \"" + name + "\" ends after line " +
                          std::to_string(zeilen.size()) + "; line " +

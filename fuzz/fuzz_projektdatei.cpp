@@ -2,8 +2,8 @@
 // The project reader on arbitrary bytes, with the planes whose handlers it fires, followed by
 // the transfer of the state to the planes: each input is read or refused with a handled fault,
 // never more.
+#include "fuzz/StummeDialogs.h"
 #include "planes/Eingabeflaechen.h"
-#include "project/Dialogs.h"
 #include "project/FatalError.h"
 #include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"
@@ -14,25 +14,6 @@
 #include <cstdint>
 #include <memory>
 #include <string_view>
-
-namespace {
-
-class StummeDialogs : public Dialogs {
-public:
-    Antwort nachricht(const std::string&, const std::string&, Symbol, Knoepfe, bool) override {
-        return Antwort::OK;
-    }
-    std::optional<std::string> oeffnen_dialog(const std::string&, int,
-                                              const std::string&) override {
-        return std::nullopt;
-    }
-    std::optional<std::string> speichern_dialog(const std::string&, int,
-                                                const std::string&) override {
-        return std::nullopt;
-    }
-};
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t laenge) {
     static auto p = [] {

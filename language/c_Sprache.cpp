@@ -4,10 +4,9 @@
 #include "project/Dateizugriff.h"
 #include "project/Dialogs.h"
 #include "project/FatalError.h"
+#include "project/Laufzeitfehler.h"
 #include "project/Listeneingabe.h"
 #include "project/c_glob.h"
-
-#include <fstream>
 
 namespace {
 
@@ -32,11 +31,10 @@ constexpr Monatsname MONATSNAMEN[12] = {
 };
 
 void datei_schreiben_sprache(const Projekt& p, const std::string& buchstabe) {
-    std::ofstream aus(sprachdatei(p), std::ios::binary | std::ios::trunc);
-    aus << buchstabe << "\r\n";
-    aus.close();
-    if (!aus) {
-        throw FatalError("Cannot write the language file " + sprachdatei(p) + ".");
+    try {
+        datei_ersetzen(sprachdatei(p), buchstabe + "\r\n");
+    } catch (const Laufzeitfehler& f) {
+        throw FatalError("Cannot write the language file " + sprachdatei(p) + ": " + f.what());
     }
 }
 

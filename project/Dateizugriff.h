@@ -11,6 +11,10 @@ std::string datei_text(const std::string& pfad, std::size_t grenze);
 // Whether a file can be opened for input.
 bool datei_vorhanden(const std::string& pfad);
 
-// Writes `inhalt` to a new file beside `pfad` and then puts it in the place of `pfad`, so that
-// the target is either the old file or the complete new one. Throws Laufzeitfehler on a fault.
+// Puts `inhalt` in the place of `pfad` so that the target is at every moment either the old file
+// or the complete new one, also across a kill or a power cut: the text goes to a file of a unique
+// name in the target's folder, is synced and then renamed over the target. A symbolic link is
+// written through (the link stays), and the new file takes the permissions of the old one.
+// Temporary files that killed writers left beside the target are removed. Throws Laufzeitfehler
+// (DateiZugriff) with the system's reason on a fault; the target is then untouched.
 void datei_ersetzen(const std::string& pfad, const std::string& inhalt);

@@ -2,9 +2,9 @@
 #include "report/Report.h"
 
 #include "climate/import/cp1252.h"
+#include "project/Dateizugriff.h"
+#include "project/Laufzeitfehler.h"
 #include "report/Reportschreiber.h"
-
-#include <fstream>
 
 std::string report_schreiben(const Reportquelle& q, int16_t seite) {
     return bericht::Reportschreiber(q, false).schreiben(seite);
@@ -35,11 +35,10 @@ bool report_speichern(const std::string& report_text, const std::string& pfad) {
             ansi += HEX[b & 0xF];
         }
     }
-    std::ofstream datei(pfad, std::ios::binary | std::ios::trunc);
-    if (!datei) {
+    try {
+        datei_ersetzen(pfad, ansi);
+    } catch (const Laufzeitfehler&) {
         return false;
     }
-    datei << ansi;
-    datei.close();
-    return static_cast<bool>(datei);
+    return true;
 }

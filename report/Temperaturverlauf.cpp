@@ -3,9 +3,9 @@
 
 #include "climate/import/cp1252.h"
 #include "planes/Zahlformat.h"
+#include "project/Dateizugriff.h"
+#include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"
-
-#include <fstream>
 
 namespace {
 
@@ -101,11 +101,10 @@ std::string temperaturverlauf_jahrestext(const Projekt& p, char dezimal) {
 }
 
 bool temperaturverlauf_exportieren(const Projekt& p, char dezimal, const std::string& pfad) {
-    std::ofstream datei(pfad, std::ios::binary | std::ios::trunc);
-    if (!datei) {
+    try {
+        datei_ersetzen(pfad, utf8_nach_cp1252(temperaturverlauf_jahrestext(p, dezimal)));
+    } catch (const Laufzeitfehler&) {
         return false;
     }
-    datei << utf8_nach_cp1252(temperaturverlauf_jahrestext(p, dezimal));
-    datei.close();
-    return static_cast<bool>(datei);
+    return true;
 }

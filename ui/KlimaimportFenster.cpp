@@ -271,8 +271,11 @@ void KlimaimportFenster::Command1_Click() {
 
 void KlimaimportFenster::quelle_waehlen(const std::string& pfad) {
     std::string text;
-    if (!quelltext_lesen(pfad, text)) {
-        dialoge_.meldung(text_fehler_titel(p_.Sprache), text_nicht_lesbar(p_.Sprache, pfad));
+    const Quelltext gelesen = quelltext_lesen(pfad, text);
+    if (gelesen != Quelltext::gelesen) {
+        dialoge_.meldung(text_fehler_titel(p_.Sprache), gelesen == Quelltext::zu_gross
+                                                            ? text_zu_gross(p_.Sprache, pfad)
+                                                            : text_nicht_lesbar(p_.Sprache, pfad));
         return;
     }
     text_ = std::move(text);

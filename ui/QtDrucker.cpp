@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/QtDrucker.h"
 
+#include "project/Dateizugriff.h"
+#include "project/Laufzeitfehler.h"
+
+#include <QBuffer>
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
 #include <QPdfWriter>
@@ -114,29 +118,42 @@ void QtDrucker::draw_text(double x, double y, const std::string& text) {
 }
 
 void QtDrucker::new_page() {
-    if (maler_.isActive()) {
-        geraet_.newPage();
+    if (maler_.isActive() && !geraet_.newPage()) {
+        fehlerfrei_ = false;
     }
 }
 
 void QtDrucker::EndDoc() {
-    if (maler_.isActive()) {
-        maler_.end();
+    if (maler_.isActive() && !maler_.end()) {
+        fehlerfrei_ = false;
     }
 }
 
 bool pdf_ausdrucken(const std::string& pfad, const Projekt& p, const Eingabeflaechen& e,
                     const Druckauswahl& auswahl, char dezimal, std::string& fehler) {
-    QPdfWriter pdf(qs(pfad));
-    pdf.setPageSize(QPageSize(QPageSize::A4));
-    pdf.setPageMargins(QMarginsF(5, 5, 5, 5), QPageLayout::Millimeter);
-    pdf.setResolution(600);
-    pdf.setCreator(QStringLiteral("Velmaris"));
-    QtDrucker drucker(pdf, pfad);
-    if (!drucker.aktiv()) {
-        fehler = "cannot write \"" + pfad + "\"";
+    QBuffer dokument;
+    dokument.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter pdf(&dokument);
+        pdf.setPageSize(QPageSize(QPageSize::A4));
+        pdf.setPageMargins(QMarginsF(5, 5, 5, 5), QPageLayout::Millimeter);
+        pdf.setResolution(600);
+        pdf.setCreator(QStringLiteral("Velmaris"));
+        QtDrucker drucker(pdf, pfad);
+        const bool begonnen = drucker.aktiv();
+        if (begonnen) {
+            Ausdrucken(drucker, p, e, auswahl, dezimal, druckdatum());
+        }
+        if (!begonnen || !drucker.fehlerfrei() || dokument.data().isEmpty()) {
+            fehler = "Cannot write " + pfad + ": the PDF document could not be made";
+            return false;
+        }
+    }
+    try {
+        datei_ersetzen(pfad, dokument.data().toStdString());
+    } catch (const Laufzeitfehler& f) {
+        fehler = f.what();
         return false;
     }
-    Ausdrucken(drucker, p, e, auswahl, dezimal, druckdatum());
     return true;
 }

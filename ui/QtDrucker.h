@@ -26,6 +26,8 @@ public:
 
     // Whether the painter is active, i.e. the device (or its file) could be opened.
     bool aktiv() const { return maler_.isActive(); }
+    // Whether the device took every page and the end of the document without a fault.
+    bool fehlerfrei() const { return fehlerfrei_; }
 
     double ScaleWidth() const override { return breite_; }
     std::string DeviceName() const override { return name_; }
@@ -53,9 +55,12 @@ private:
     QPainter maler_;
     double faktor_ = 1; // device units per millimetre
     double breite_ = 0; // width of the printable area, mm
+    bool fehlerfrei_ = true;
 };
 
 // The ticked pages as a PDF file of A4 pages, 5 mm margins so that the printable area is 200 mm
-// wide, through Ausdrucken. Returns false with `fehler` set when the file cannot be written.
+// wide, through Ausdrucken. The document is made in memory and then put in the place of the file
+// as a whole (datei_ersetzen), so that a fault leaves the former file. Returns false with
+// `fehler` set when the document or the file cannot be written.
 bool pdf_ausdrucken(const std::string& pfad, const Projekt& p, const Eingabeflaechen& e,
                     const Druckauswahl& auswahl, char dezimal, std::string& fehler);

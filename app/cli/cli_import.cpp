@@ -2,6 +2,7 @@
 #include "app/cli/befehle.h"
 #include "app/cli/pfade.h"
 #include "climate/import/importieren.h"
+#include "climate/import/importtexte.h"
 #include "climate/import/zahltext.h"
 
 #include <cmath>
@@ -105,8 +106,12 @@ int befehl_import(const std::vector<std::string>& args, std::ostream& aus, std::
 
     Klimaimport f;
     std::string datei;
-    if (!quelle_oeffnen(f, quelle, datei)) {
-        fehler << "velmaris-cli import: \"" << quelle << "\" cannot be read\n";
+    const Quelltext gelesen = quelle_oeffnen(f, quelle, datei);
+    if (gelesen != Quelltext::gelesen) {
+        fehler << "velmaris-cli import: "
+               << (gelesen == Quelltext::zu_gross ? text_zu_gross(sprache, quelle)
+                                                  : "\"" + quelle + "\" cannot be read")
+               << "\n";
         return 2;
     }
     const std::map<std::string, Quellformat> formate = {

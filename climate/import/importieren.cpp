@@ -7,27 +7,25 @@
 #include "climate/import/stationsschreiber.h"
 #include "climate/import/zahltext.h"
 #include "climate/klimadatei.h"
+#include "project/Dateizugriff.h"
+#include "project/Laufzeitfehler.h"
 
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
-bool quelltext_lesen(const std::string& pfad, std::string& text) {
-    std::ifstream datei(pfad, std::ios::binary);
-    if (!datei) {
-        return false;
+Quelltext quelltext_lesen(const std::string& pfad, std::string& text) {
+    std::string gelesen;
+    try {
+        gelesen = datei_text(pfad, IMPORT_HOECHSTGROESSE + 1);
+    } catch (const Laufzeitfehler&) {
+        return Quelltext::nicht_lesbar;
     }
-    std::error_code fehler;
-    const auto groesse = std::filesystem::file_size(pfad, fehler);
-    if (fehler || groesse > IMPORT_HOECHSTGROESSE) {
-        return false;
+    if (gelesen.size() > IMPORT_HOECHSTGROESSE) {
+        return Quelltext::zu_gross;
     }
-    std::ostringstream inhalt;
-    inhalt << datei.rdbuf();
-    text = inhalt.str();
-    return true;
+    text = std::move(gelesen);
+    return Quelltext::gelesen;
 }
 
 namespace {
@@ -118,8 +116,12 @@ bool spalten_lesen(const Klimaimport& f, std::string_view text, const std::strin
     direkt = gesamt == 0;
     const int strahlung = direkt ? direktspalte : gesamt;
 
-    const std::vector<std::string_view> zeilen = zeilen_teilen(text);
     const std::size_t kopf = kopfzeilenzahl(f.Kopfzeilen);
+    if (kopf > KOPFZEILEN_HOECHSTENS) {
+        dialoge.meldung(titel, text_zu_viele_kopfzeilen(Sprache));
+        return false;
+    }
+    const std::vector<std::string_view> zeilen = zeilen_teilen(text);
     // The blank modes take their column positions from the first line behind the head, as the
     // preview does.
     Klimaimport g = f;
@@ -154,20 +156,21 @@ bool spalten_lesen(const Klimaimport& f, std::string_view text, const std::strin
 
 } // namespace
 
-bool quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei) {
+Quelltext quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei) {
     std::string text;
-    if (!quelltext_lesen(pfad, text)) {
-        return false;
+    const Quelltext gelesen = quelltext_lesen(pfad, text);
+    if (gelesen == Quelltext::gelesen) {
+        quelle_annehmen(f, pfad, text, Datei);
     }
-    quelle_annehmen(f, pfad, text, Datei);
-    return true;
+    return gelesen;
 }
 
 void quelle_annehmen(Klimaimport& f, const std::string& pfad, std::string_view text,
                      std::string& Datei) {
     Datei = pfad;
     f.DateinameBox = pfad;
-    const std::vector<std::string_view> zeilen = zeilen_teilen(text);
+    // Only the preview's lines are looked at here.
+    const std::vector<std::string_view> zeilen = zeilen_teilen(text, VORSCHAU_ZEILEN);
     const std::size_t vorschau = std::min<std::size_t>(zeilen.size(), VORSCHAU_ZEILEN);
     f.Dateiansicht.clear();
     for (std::size_t i = 0; i < vorschau; ++i) {
@@ -201,7 +204,8 @@ void quelle_annehmen(Klimaimport& f, const std::string& pfad, std::string_view t
 
 bool quelle_kopf_lesen(Klimaimport& f) {
     std::string text;
-    if (f.Format == Quellformat::spalten || !quelltext_lesen(f.DateinameBox, text)) {
+    if (f.Format == Quellformat::spalten ||
+        quelltext_lesen(f.DateinameBox, text) != Quelltext::gelesen) {
         return false;
     }
     kopf_aus_text(f, text);
@@ -241,8 +245,11 @@ Importergebnis klimadaten_importieren(const Klimaimport& f, const std::string& k
     Importergebnis ergebnis;
     const std::string titel = text_fehler_titel(Sprache);
     std::string text;
-    if (!quelltext_lesen(f.DateinameBox, text)) {
-        dialoge.meldung(titel, text_nicht_lesbar(Sprache, f.DateinameBox));
+    const Quelltext gelesen = quelltext_lesen(f.DateinameBox, text);
+    if (gelesen != Quelltext::gelesen) {
+        dialoge.meldung(titel, gelesen == Quelltext::zu_gross
+                                   ? text_zu_gross(Sprache, f.DateinameBox)
+                                   : text_nicht_lesbar(Sprache, f.DateinameBox));
         return ergebnis;
     }
 
@@ -281,10 +288,9 @@ Importergebnis klimadaten_importieren(const Klimaimport& f, const std::string& k
         return ergebnis;
     }
     const std::string station = stationsdatei(f, zeilen, direkt);
-    std::ofstream aus(ziel, std::ios::binary | std::ios::trunc);
-    aus << station;
-    aus.close();
-    if (!aus) {
+    try {
+        datei_ersetzen(ziel, station);
+    } catch (const Laufzeitfehler&) {
         dialoge.meldung(titel, text_nicht_schreibbar(Sprache, ziel));
         return ergebnis;
     }

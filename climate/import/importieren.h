@@ -23,12 +23,14 @@ public:
     virtual bool frage_ja_nein(const std::string& text) = 0;
 };
 
-// Largest source file the import reads, bytes.
-constexpr std::size_t IMPORT_HOECHSTGROESSE = 256u << 20;
+// Largest source file the import reads, bytes: 8760 rows of 100 columns of 16 characters and a
+// head, with room to spare. More is refused before it is split into lines.
+constexpr std::size_t IMPORT_HOECHSTGROESSE = 16u << 20;
 
-// The whole text of a source; false when it cannot be read or is larger than
-// IMPORT_HOECHSTGROESSE.
-bool quelltext_lesen(const std::string& pfad, std::string& text);
+enum class Quelltext { gelesen, nicht_lesbar, zu_gross };
+
+// The whole text of a source, reading no more than one byte past IMPORT_HOECHSTGROESSE.
+Quelltext quelltext_lesen(const std::string& pfad, std::string& text);
 
 // Preview lines read when a source is opened.
 constexpr int VORSCHAU_ZEILEN = 250;
@@ -37,9 +39,9 @@ constexpr int VORSCHAU_ZEILEN = 250;
 // remembered file name, which the import sets as well), the first 250 lines to Dateiansicht,
 // every column choice is cleared. A Meteonorm source is filled in by Meteonorm_Lesen; an EPW,
 // test reference year, Modelica, NSRDB or PVGIS source by its own head (place, coordinates, zone
-// where the file gives them); any other source leaves the fields empty for the user. False, with
-// nothing changed, when the file cannot be read.
-bool quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei);
+// where the file gives them); any other source leaves the fields empty for the user. Anything but
+// `gelesen` leaves everything as it was.
+Quelltext quelle_oeffnen(Klimaimport& f, const std::string& pfad, std::string& Datei);
 
 // quelle_oeffnen on the text of the source `pfad` read already.
 void quelle_annehmen(Klimaimport& f, const std::string& pfad, std::string_view text,

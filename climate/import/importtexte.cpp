@@ -77,6 +77,20 @@ std::string text_nicht_lesbar(const std::string& Sprache, const std::string& pfa
                           : "Die Datei \"" + pfad + "\" kann nicht gelesen werden.";
 }
 
+std::string text_zu_gross(const std::string& Sprache, const std::string& pfad) {
+    return Sprache == "e" ? "The file \"" + pfad +
+                                "\" is larger than 16 MB, more than a year of hourly values "
+                                "can fill. It is not read."
+                          : "Die Datei \"" + pfad +
+                                "\" ist größer als 16 MB, mehr als ein Jahr von Stundenwerten "
+                                "füllen kann. Sie wird nicht gelesen.";
+}
+
+std::string text_zu_viele_kopfzeilen(const std::string& Sprache) {
+    return wahl(Sprache, "Die Anzahl der Kopfzeilen ist zu groß (höchstens 32767).",
+                "The number of head lines is too large (32767 at most).");
+}
+
 std::vector<std::string> text_dezimalzeichen(const std::string& Sprache) {
     if (Sprache == "e") {
         return {"Dot (.)", "Comma (,)"};

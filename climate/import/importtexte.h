@@ -23,6 +23,10 @@ std::string text_beendet(const std::string& Sprache);
 std::string text_nicht_schreibbar(const std::string& Sprache, const std::string& pfad);
 // The source file could not be read.
 std::string text_nicht_lesbar(const std::string& Sprache, const std::string& pfad);
+// The source file is larger than any source of one year of hours.
+std::string text_zu_gross(const std::string& Sprache, const std::string& pfad);
+// The head-line count is larger than the import takes.
+std::string text_zu_viele_kopfzeilen(const std::string& Sprache);
 
 // The entries of the window's lists, from index 0.
 // Dezimalzeichen: point, comma.

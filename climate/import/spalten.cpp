@@ -111,5 +111,9 @@ void Stelle(const Klimaimport& f, std::string_view zeile, int n, std::string& we
 
 std::size_t kopfzeilenzahl(const std::string& Kopfzeilen) {
     const double n = runden_gerade(numerisch_lesen(Kopfzeilen), 0);
-    return n > 0 && n < 1e9 ? static_cast<std::size_t>(n) : 0;
+    if (!(n > 0)) {
+        return 0;
+    }
+    return n > static_cast<double>(KOPFZEILEN_HOECHSTENS) ? KOPFZEILEN_HOECHSTENS + 1
+                                                          : static_cast<std::size_t>(n);
 }

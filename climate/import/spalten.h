@@ -24,6 +24,10 @@ void StelleLeer(const Klimaimport& f, std::string_view zeile, int n, std::string
 // The n-th field by the separation mode of the window: StelleTab for mode 0, else StelleLeer.
 void Stelle(const Klimaimport& f, std::string_view zeile, int n, std::string& wert, bool& ok);
 
+// Most head lines the import skips: the count is a 16-bit number.
+constexpr std::size_t KOPFZEILEN_HOECHSTENS = 32767;
+
 // The head lines to skip for the text of Kopfzeilen: its numeric read, rounded to a whole number
-// (halves to even), never negative.
+// (halves to even), never negative; a larger count than KOPFZEILEN_HOECHSTENS gives
+// KOPFZEILEN_HOECHSTENS + 1, which the import refuses and the preview shows as past the end.
 std::size_t kopfzeilenzahl(const std::string& Kopfzeilen);

@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
+#include <sys/resource.h>
+
 namespace {
 
 std::unique_ptr<Projekt> lesen(const TempOrdner& ordner, const std::string& text) {
@@ -131,6 +135,45 @@ TEST(Klimadatei, ShortOrMissingFileIsAClearFaultAndKeepsTheFormerClimate) {
     } catch (const FatalError& e) {
         EXPECT_NE(std::string(e.what()).find("fehlt.met"), std::string::npos) << e.what();
     }
+}
+
+TEST(Klimadatei, ReaderStopsAtItsBoundAndReadsNoMore) {
+    TempOrdner ordner;
+    const std::string text = station_text({}, synthetisches_wetter);
+    auto genau = lesen(ordner, text);
+    // A valid file followed by more than the bound of anything reads as the valid file.
+    auto lang = lesen(ordner, text + std::string(KLIMADATEI_HOECHSTGROESSE, 'x'));
+    EXPECT_FLOAT_EQ(lang->Wetter(12, 31, 24).Ta, genau->Wetter(12, 31, 24).Ta);
+    // 100 MB of empty lines read as 8766 empty lines, and no more of them is taken in.
+    {
+        std::ofstream leer(ordner.pfad() / "leer.met", std::ios::binary);
+        const std::string block(1 << 20, '\n');
+        for (int i = 0; i < 100; ++i) {
+            leer << block;
+        }
+    }
+    rusage vorher{};
+    getrusage(RUSAGE_SELF, &vorher);
+    auto p = leeres_projekt();
+    p->KlimaOrdner = ordner.pfad().string();
+    p->Klimadatei = "leer.met";
+    klimadatei_lesen(*p);
+    rusage nachher{};
+    getrusage(RUSAGE_SELF, &nachher);
+    EXPECT_LT(nachher.ru_maxrss - vorher.ru_maxrss, 50 << 10) << "kB";
+    EXPECT_FLOAT_EQ(p->Wetter(7, 1, 12).Ta, 0.0f);
+    // A file whose line 8766 does not end within the bound is refused with the reason.
+    ordner.schreiben("eine_zeile.met", std::string(2 << 20, ' '));
+    p->Klimadatei = "eine_zeile.met";
+    try {
+        klimadatei_lesen(*p);
+        FAIL() << "a line of 2 MB must not load";
+    } catch (const FatalError& e) {
+        EXPECT_NE(std::string(e.what()).find("does not end its line 8766 within its first 1 MB"),
+                  std::string::npos)
+            << e.what();
+    }
+    EXPECT_EQ(zeilen_teilen("a\nb\r\nc\rd", 2), (std::vector<std::string_view>{"a", "b"}));
 }
 
 TEST(Klimadatei, ShortRowsAndLfLineEndsRead) {

@@ -2,6 +2,7 @@
 // The import of a column text as the user runs it: the column checks and their order, the test
 // pass, the default name, the name and overwrite questions and the written file.
 #include "climate/import/importieren.h"
+#include "climate/import/spalten.h"
 #include "climate/klimadatei.h"
 #include "tests/import/Importhilfe.h"
 #include "tests/support/Testprojekt.h"
@@ -14,7 +15,7 @@ namespace {
 Klimaimport fenster(const std::filesystem::path& pfad) {
     Klimaimport f;
     std::string Datei;
-    EXPECT_TRUE(quelle_oeffnen(f, pfad.string(), Datei));
+    EXPECT_EQ(quelle_oeffnen(f, pfad.string(), Datei), Quelltext::gelesen);
     EXPECT_EQ(Datei, pfad.string()) << "the project's file name becomes the source's";
     f.Kopfzeilen = "2";
     f.Standortname = "Teststadt";
@@ -213,7 +214,7 @@ TEST(Import, MeteonormSourceIsFilledInOnOpening) {
     const std::filesystem::path pfad = ordner.schreiben("davos.dat", text);
     Klimaimport f;
     std::string Datei;
-    ASSERT_TRUE(quelle_oeffnen(f, pfad.string(), Datei));
+    ASSERT_EQ(quelle_oeffnen(f, pfad.string(), Datei), Quelltext::gelesen);
     EXPECT_EQ(f.Standortname, "Davos");
     EXPECT_EQ(f.Kopfzeilen, "4");
     EXPECT_NE(f.Dateiansicht.find("\"Davos\"\r\n46.8"), std::string::npos);
@@ -233,11 +234,54 @@ TEST(Import, MeteonormSourceIsFilledInOnOpening) {
 TEST(Import, UnreadableSourceIsAMessage) {
     Klimaimport f;
     std::string Datei = "projekt.vel";
-    EXPECT_FALSE(quelle_oeffnen(f, "/nicht/vorhanden.txt", Datei));
+    EXPECT_EQ(quelle_oeffnen(f, "/nicht/vorhanden.txt", Datei), Quelltext::nicht_lesbar);
     EXPECT_EQ(Datei, "projekt.vel");
     f.DateinameBox = "/nicht/vorhanden.txt";
     Skriptnutzer nutzer;
     EXPECT_EQ(klimadaten_importieren(f, "/tmp", "e", nutzer).ausgang, Importausgang::fehler);
     ASSERT_EQ(nutzer.meldungen.size(), 1u);
     EXPECT_EQ(nutzer.meldungen[0].text, "The file \"/nicht/vorhanden.txt\" cannot be read.");
+}
+
+TEST(Import, OversizedSourceAndHeadCountAreRefusedWithTheirReason) {
+    TempOrdner ordner;
+    // One byte more than the import reads, all of it empty lines.
+    const auto gross = ordner.schreiben("gross.txt", std::string(IMPORT_HOECHSTGROESSE + 1, '\n'));
+    Klimaimport f;
+    std::string Datei = "projekt.vel";
+    EXPECT_EQ(quelle_oeffnen(f, gross.string(), Datei), Quelltext::zu_gross);
+    EXPECT_EQ(Datei, "projekt.vel");
+    f = fenster(ordner.schreiben("quelle.txt", stundenquelle(8760)));
+    f.DateinameBox = gross.string();
+    Skriptnutzer nutzer;
+    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer).ausgang,
+              Importausgang::fehler);
+    ASSERT_EQ(nutzer.meldungen.size(), 1u);
+    EXPECT_EQ(nutzer.meldungen[0].text,
+              "Die Datei \"" + gross.string() +
+                  "\" ist größer als 16 MB, mehr als ein Jahr von Stundenwerten füllen kann. "
+                  "Sie wird nicht gelesen.");
+
+    // A head count past the 16-bit field is refused, not read as no head at all.
+    struct Fall {
+        const char* Kopfzeilen;
+        std::size_t zahl;
+    };
+    for (const Fall fall : {Fall{"2", 2}, Fall{"32767", 32767}, Fall{"32768", 32768},
+                            Fall{"99999999999999999999", 32768}, Fall{"", 0}}) {
+        EXPECT_EQ(kopfzeilenzahl(fall.Kopfzeilen), fall.zahl) << fall.Kopfzeilen;
+    }
+    f = fenster(ordner.pfad() / "quelle.txt");
+    f.Kopfzeilen = "99999999999";
+    for (const char* sprache : {"d", "e"}) {
+        Skriptnutzer n;
+        EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), sprache, n).ausgang,
+                  Importausgang::fehler);
+        ASSERT_EQ(n.meldungen.size(), 1u);
+        EXPECT_EQ(n.meldungen[0].text,
+                  std::string(sprache) == "d"
+                      ? "Die Anzahl der Kopfzeilen ist zu groß (höchstens 32767)."
+                      : "The number of head lines is too large (32767 at most).");
+    }
+    EXPECT_FALSE(std::filesystem::exists(ordner.pfad() / "neu.met"));
 }

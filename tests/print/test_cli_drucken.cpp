@@ -69,5 +69,33 @@ TEST(CliDrucken, WrongArgumentsUnreadableProjectsAndUnwritableTargets) {
 
     l = o.drucken("'" + (o.ordner.pfad() / "kein/ordner/x.pdf").string() + "'");
     EXPECT_EQ(l.status, 2) << l.aus;
-    EXPECT_NE(l.aus.find("cannot write"), std::string::npos) << l.aus;
+    EXPECT_NE(l.aus.find("Cannot write"), std::string::npos) << l.aus;
+}
+
+TEST(CliDrucken, FullDiskKeepsTheFormerFileAndASaveKeepsLinkAndPermissions) {
+    Druckordner o;
+    namespace fs = std::filesystem;
+    fs::create_directory(o.ordner.pfad() / "echt");
+    const fs::path echt = o.ordner.pfad() / "echt/bericht.pdf";
+    o.ordner.schreiben("echt/bericht.pdf", "alt");
+    fs::permissions(echt, fs::perms(0640));
+    const fs::path link = o.ordner.pfad() / "bericht.pdf";
+    fs::create_symlink(echt, link);
+
+    // A disk that takes 8 kB: the document does not fit.
+    const Befehlslauf voll = befehl_ausfuehren(
+        "trap '' XFSZ; ulimit -f 16; " + std::string(VELMARIS_CLI) + " drucken '" + o.projekt +
+        "' '" + link.string() + "' --seiten 1 --klima '" + o.klima + "' 2>&1");
+    EXPECT_EQ(voll.status, 2) << voll.aus;
+    EXPECT_NE(voll.aus.find("File too large"), std::string::npos) << voll.aus;
+    EXPECT_EQ(datei_lesen(echt), "alt");
+
+    const Befehlslauf l = o.drucken("'" + link.string() + "' --seiten 1");
+    EXPECT_EQ(l.status, 0) << l.aus;
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(pdf_seiten(echt), 2);
+    EXPECT_EQ(fs::status(echt).permissions(), fs::perms(0640));
+    EXPECT_EQ(
+        std::distance(fs::directory_iterator(o.ordner.pfad() / "echt"), fs::directory_iterator()),
+        1);
 }

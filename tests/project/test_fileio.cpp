@@ -4,8 +4,11 @@
 #include "project/projektdatei.h"
 #include "tests/project/SkriptDialogs.h"
 
+#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
+
+#include <sys/resource.h>
 
 namespace fs = std::filesystem;
 
@@ -249,9 +252,13 @@ TEST(FILEIO, FailedSaveLeavesTheFormerFileWhole) {
     prog.dialogs.dateien = {prog.pfad("p.vel")};
     ASSERT_TRUE(prog.io->datei_speichern_unter());
     const auto vorher = prog.zeilen(prog.pfad("p.vel"));
-    // The place of the new file is taken: writing it fails.
-    fs::create_directory(prog.pfad("p.vel.velmaris-neu"));
+    // A full disk: the file size limit stops the write.
     prog.e->geometrie.l_sb.setze(250);
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit grenze{};
+    getrlimit(RLIMIT_FSIZE, &grenze);
+    const rlimit voll{64, grenze.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &voll);
     EXPECT_FALSE(prog.io->datei_speichern());
     EXPECT_EQ(prog.dialogs.texte().back(), "Dateifehler!");
     EXPECT_EQ(prog.zeilen(prog.pfad("p.vel")), vorher);
@@ -260,10 +267,12 @@ TEST(FILEIO, FailedSaveLeavesTheFormerFileWhole) {
     prog.dialogs.antworten = {Antwort::Ja};
     prog.io->datei_neu();
     EXPECT_FLOAT_EQ(prog.p->l, 25.0f);
-    fs::remove(prog.pfad("p.vel.velmaris-neu"));
+    setrlimit(RLIMIT_FSIZE, &grenze);
     ASSERT_TRUE(prog.io->datei_speichern());
     EXPECT_EQ(prog.zeilen(prog.pfad("p.vel"))[1], " 25");
-    EXPECT_FALSE(fs::exists(prog.pfad("p.vel.velmaris-neu")));
+    for (const auto& e : fs::directory_iterator(prog.ordner.pfad())) {
+        EXPECT_EQ(e.path().filename().string().find(".velmaris-"), std::string::npos);
+    }
 }
 
 TEST(FILEIO, OpenWithYesSavesUnderTheCurrentName) {
