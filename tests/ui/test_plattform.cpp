@@ -107,12 +107,14 @@ private slots:
              }) {
             programm = programm_starten(nullptr, *klima, f.sprache);
             QStringList texte;
-            im_dialog([&texte](QWidget* w) {
+            const char* sprache = f.sprache;
+            im_dialog([&texte, sprache](QWidget* w) {
                 auto* box = qobject_cast<QMessageBox*>(w);
                 QVERIFY(box != nullptr);
                 for (auto k : {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}) {
                     texte << box->button(k)->text();
                 }
+                bild_speichern(*box, QStringLiteral("meldung_") + QLatin1String(sprache));
                 box->button(QMessageBox::Cancel)->click();
             });
             programm->dialoge().nachricht(
@@ -133,6 +135,7 @@ private slots:
             QVERIFY(d != nullptr);
             abbrechen = d->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->text();
             ort = d->directory().absolutePath();
+            bild_speichern(*d, QStringLiteral("speicherdialog_d"));
             d->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
                 ->setText(QStringLiteral("Haus Süd"));
             QMetaObject::invokeMethod(d, "accept");
