@@ -4,6 +4,7 @@
 #include "climate/Bitmap.h"
 #include "climate/klimaregionen.h"
 #include "climate/plz_suche.h"
+#include "climate/stationsordner.h"
 #include "climate/wetter_laden.h"
 #include "project/Dialogs.h"
 #include "project/FatalError.h"
@@ -92,7 +93,7 @@ void E_Klima_erstellen(E_Klima& e, const Projekt& p) {
     for (int i = 1; i <= KLIMAREGIONEN; ++i) {
         e.Klimaregionwahl.Eintraege.emplace_back(klimaregion(i).text);
     }
-    e.listen = stationslisten_bauen(p.KlimaOrdner);
+    e.listen = stationslisten_bauen(stationsordner(p));
     e.Picture1 = klimakarte(0);
     auto generator = std::make_shared<std::mt19937>(std::random_device{}());
     e.zufall = [generator] { return std::generate_canonical<double, 32>(*generator); };

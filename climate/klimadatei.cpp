@@ -5,6 +5,7 @@
 #include "climate/klimainfo.h"
 #include "climate/monatsstrahlung.h"
 #include "climate/numerisch.h"
+#include "climate/stationsordner.h"
 #include "project/Dateizugriff.h"
 #include "project/FatalError.h"
 #include "project/Laufzeitfehler.h"
@@ -71,7 +72,7 @@ void monatslaengen_setzen(Projekt& p) {
 }
 
 void klimadatei_lesen(Projekt& p) {
-    const std::string pfad = p.KlimaOrdner + "/" + p.Klimadatei;
+    const std::string pfad = stationspfad(p, p.Klimadatei);
     std::string text;
     try {
         text = datei_text(pfad, KLIMADATEI_HOECHSTGROESSE + 1);

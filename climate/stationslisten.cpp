@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
+#include <vector>
 
 namespace {
 
@@ -89,25 +91,34 @@ std::pair<double, double> welt_punkt(double breite, double laenge_ost) {
 }
 
 Stationslisten stationslisten_bauen(const std::string& klimaordner) {
+    return stationslisten_bauen(std::vector<std::string>{klimaordner});
+}
+
+Stationslisten stationslisten_bauen(const std::vector<std::string>& ordner) {
     namespace fs = std::filesystem;
-    std::vector<std::string> namen;
-    std::error_code fehler;
-    for (fs::directory_iterator it(klimaordner, fehler), ende; !fehler && it != ende;
-         it.increment(fehler)) {
-        const std::string name = it->path().filename().string();
-        if (ist_station(name)) {
-            namen.push_back(name);
+    std::map<std::string, fs::path> dateien;
+    for (const std::string& klimaordner : ordner) {
+        std::error_code fehler;
+        for (fs::directory_iterator it(klimaordner, fehler), ende; !fehler && it != ende;
+             it.increment(fehler)) {
+            const std::string name = it->path().filename().string();
+            if (ist_station(name)) {
+                dateien.emplace(name, it->path());
+            }
         }
     }
     // The folder listing has no order of its own; a fixed one keeps equal station names in a
     // repeatable order through the sort below.
-    std::sort(namen.begin(), namen.end());
+    std::vector<std::string> namen;
+    for (const auto& d : dateien) {
+        namen.push_back(d.first);
+    }
 
     Stationslisten l;
     std::vector<std::string> sortierschluessel; // line 1 item as it stands in the file
     for (const std::string& name : namen) {
         std::string kopf;
-        if (!kopf_lesen(fs::path(klimaordner) / name, kopf)) {
+        if (!kopf_lesen(dateien[name], kopf)) {
             continue;
         }
         Textkanal kanal(std::move(kopf));

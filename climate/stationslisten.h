@@ -52,3 +52,5 @@ std::pair<double, double> welt_punkt(double breite, double laenge_ost);
 // (selection sort, all lists swapped together), and the Europe set keeps only the stations inside
 // the Europe map. An unreadable file is left out; a missing folder gives empty lists.
 Stationslisten stationslisten_bauen(const std::string& klimaordner);
+// The same over several folders; a file name found in an earlier folder hides the later ones.
+Stationslisten stationslisten_bauen(const std::vector<std::string>& ordner);

@@ -8,6 +8,9 @@
 #include "project/Listeneingabe.h"
 #include "project/c_glob.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace {
 
 struct Monatsname {
@@ -31,6 +34,11 @@ constexpr Monatsname MONATSNAMEN[12] = {
 };
 
 void datei_schreiben_sprache(const Projekt& p, const std::string& buchstabe) {
+    if (!p.Einstellungen.empty()) {
+        // A fault shows when the file is written.
+        std::error_code fehler;
+        std::filesystem::create_directories(p.Einstellungen, fehler);
+    }
     try {
         datei_ersetzen(sprachdatei(p), buchstabe + "\r\n");
     } catch (const Laufzeitfehler& f) {
@@ -41,7 +49,13 @@ void datei_schreiben_sprache(const Projekt& p, const std::string& buchstabe) {
 } // namespace
 
 std::string sprachdatei(const Projekt& p) {
-    return p.KlimaOrdner + "/typ.dat";
+    return (p.Einstellungen.empty() ? p.KlimaOrdner : p.Einstellungen) + "/typ.dat";
+}
+
+std::string gelesene_sprachdatei(const Projekt& p) {
+    const std::string eigene = sprachdatei(p);
+    const std::string geliefert = p.KlimaOrdner + "/typ.dat";
+    return datei_da(eigene) || !datei_da(geliefert) ? eigene : geliefert;
 }
 
 bool datei_da(const std::string& pfad) {
@@ -49,10 +63,11 @@ bool datei_da(const std::string& pfad) {
 }
 
 void sprache_lesen(Projekt& p, const Sprachwahl& wahl) {
-    if (datei_da(sprachdatei(p))) {
+    const std::string datei = gelesene_sprachdatei(p);
+    if (datei_da(datei)) {
         // A one-line file: what stands before a comma or the line end, blanks skipped; an empty
         // file gives an empty letter.
-        const std::string text = datei_text(sprachdatei(p), 4096);
+        const std::string text = datei_text(datei, 4096);
         Listeneingabe ein(text);
         p.Sprache = text.empty() ? std::string() : ein.text();
         return;

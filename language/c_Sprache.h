@@ -2,7 +2,7 @@
 #pragma once
 
 // The language of the run: the letter "d" or "e" in Sprache, kept for the next start in the
-// one-line file typ.dat in the station folder. Each bilingual text is chosen by comparing the
+// one-line file typ.dat. Each bilingual text is chosen by comparing the
 // letter with "d" and with "e", each test by itself: a third letter sets neither language.
 
 #include <functional>
@@ -11,8 +11,11 @@
 struct Projekt;
 class Dialogs;
 
-// The language file, p.KlimaOrdner + "/typ.dat".
+// The language file the choice is written to: in the user's settings folder, or
+// p.KlimaOrdner + "/typ.dat" when the program runs from its build.
 std::string sprachdatei(const Projekt& p);
+// The language file read at start: the user's, else one delivered in the station folder.
+std::string gelesene_sprachdatei(const Projekt& p);
 
 // Whether a file exists (can be opened for input).
 bool datei_da(const std::string& pfad);

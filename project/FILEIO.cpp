@@ -5,6 +5,7 @@
 #include "climate/klimadatei.h"
 #include "climate/wetter_laden.h"
 #include "planes/Eingabeflaechen.h"
+#include "project/Dateiendung.h"
 #include "project/Dateizugriff.h"
 #include "project/Dialogs.h"
 #include "project/FatalError.h"
@@ -149,7 +150,7 @@ void FILEIO::datei_oeffnen(const std::string& pfad) {
         if (!pfad.empty()) {
             p_.Datei = pfad;
         } else {
-            const auto gewaehlt = d_.oeffnen_dialog(FILTER_OEFFNEN, 2, p_.InitDir);
+            const auto gewaehlt = d_.oeffnen_dialog(FILTER_OEFFNEN, 2, dialogordner(p_));
             if (!gewaehlt) {
                 throw Abbruch{};
             }
@@ -233,7 +234,7 @@ bool FILEIO::datei_speichern() {
 
 bool FILEIO::datei_speichern_unter() {
     for (;;) {
-        const auto gewaehlt = d_.speichern_dialog(FILTER_SPEICHERN, 1, p_.InitDir);
+        const auto gewaehlt = d_.speichern_dialog(FILTER_SPEICHERN, 1, dialogordner(p_));
         if (!gewaehlt) {
             return true;
         }
@@ -301,14 +302,15 @@ int16_t FILEIO::aenderung_abfragen() {
     return 0;
 }
 
-void FILEIO::start(const std::string& befehlszeile, const std::string& programmordner) {
+void FILEIO::start(const std::string& befehlszeile, const std::string& programmordner,
+                   const std::string& dokumente) {
     p_.AppPfad = programmordner;
-    p_.InitDir = initdir_aus_befehlszeile(befehlszeile, programmordner);
+    p_.InitDir = initdir_aus_befehlszeile(befehlszeile, dokumente);
     aufbauen();
     p_.Gestartet = 1;
     const std::string projekt = projekt_aus_befehlszeile(befehlszeile);
     if (!projekt.empty()) {
-        datei_oeffnen(projekt);
+        datei_oeffnen(projektpfad_finden(projekt));
     }
 }
 
@@ -317,24 +319,33 @@ std::string FILEIO::hilfe_datei() const {
 }
 
 std::string projekt_aus_befehlszeile(const std::string& befehlszeile) {
-    // Lowered as a whole: the path reaches the file system in lower case.
+    // The extension is found in any case; the path reaches the file system as given.
     const std::string zeile = klein(befehlszeile);
     if (zeile.size() <= 4) {
         return std::string();
     }
     if (endet_mit(zeile, ".vel")) {
-        return zeile;
+        return befehlszeile;
     }
     if (endet_mit(zeile, ".vel\"")) {
-        return zeile.substr(1, zeile.size() - 2);
+        return befehlszeile.substr(1, befehlszeile.size() - 2);
     }
     return std::string();
 }
 
+std::string projektpfad_finden(const std::string& pfad) {
+    const std::string gesenkt = klein(pfad);
+    return !datei_vorhanden(pfad) && datei_vorhanden(gesenkt) ? gesenkt : pfad;
+}
+
 std::string initdir_aus_befehlszeile(const std::string& befehlszeile, const std::string& initdir) {
-    if (befehlszeile.size() <= 1) {
-        return initdir;
-    }
     const std::size_t strich = befehlszeile.rfind('|');
-    return strich == std::string::npos ? befehlszeile : befehlszeile.substr(strich + 1);
+    return strich == std::string::npos ? initdir : befehlszeile.substr(strich + 1);
+}
+
+std::string dialogordner(const Projekt& p) {
+    if (p.Datei_offen == 1 && p.Datei != UNBENANNT) {
+        return ordner_von(p.Datei, p.InitDir);
+    }
+    return p.InitDir;
 }

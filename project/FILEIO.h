@@ -43,8 +43,10 @@ public:
     // The prompt on closing the window: 1 cancels the closing, 0 lets it close.
     int16_t aenderung_abfragen();
     // The start after the language is settled: folders, first folder of the dialogs from the
-    // command line, the build-up, and a project named on the command line opened.
-    void start(const std::string& befehlszeile, const std::string& programmordner);
+    // command line (else `dokumente`), the build-up, and a project named on the command line
+    // opened.
+    void start(const std::string& befehlszeile, const std::string& programmordner,
+               const std::string& dokumente);
 
     // The compiled help file of the language of the run, which the help viewer opens at its
     // start page.
@@ -79,9 +81,14 @@ private:
     std::string titel_;
 };
 
-// A command line that names a project: lower case, ending in ".vel" or in ".vel" and a closing
-// quote, the quotes dropped. Empty if it names none.
+// A command line that names a project: ending in ".vel" in any case, or in that and a closing
+// quote, the quotes dropped. The path keeps its case. Empty if it names none.
 std::string projekt_aus_befehlszeile(const std::string& befehlszeile);
-// The first folder of the file dialogs after the command line: the whole line if it has more
-// than one character, the part behind its last "|" if it holds one.
+// The project path as the file system has it: as given, or lowered where only the lowered
+// path exists (a project named in capitals that was saved in lower case).
+std::string projektpfad_finden(const std::string& pfad);
+// The first folder of the file dialogs after the command line: the part behind its last "|" if
+// it holds one, else `initdir`.
 std::string initdir_aus_befehlszeile(const std::string& befehlszeile, const std::string& initdir);
+// Where the save and open dialogs start: the folder of the named project, else InitDir.
+std::string dialogordner(const Projekt& p);

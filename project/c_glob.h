@@ -220,7 +220,11 @@ struct Projekt {
     std::string InitDir;       // first folder of the file dialogs
     std::string AppPfad;       // folder of the program
     std::string KlimaOrdner;   // folder of the station files, normally AppPfad + "/klima"
-    std::string Sprache;       // "d" or "e"
+    // The user's own folders of an installed program, empty when it runs from its build: the
+    // stations the user imported (looked up before KlimaOrdner) and the language file.
+    std::string EigeneStationen;
+    std::string Einstellungen;
+    std::string Sprache; // "d" or "e"
     int16_t Monat_Uebersicht = 7;
 
     // --- Shared texts of the language of the run, set once per start

@@ -36,7 +36,11 @@ QGroupBox* rahmen(QWidget* eltern, const char* name, const char* titel, int x, i
 }
 
 QScrollBar* balken(QWidget* eltern, Qt::Orientation richtung, int x, int y, int w, int h) {
-    return platz(new QScrollBar(richtung, eltern), nullptr, x, y, w, h);
+    auto* b = new QScrollBar(richtung, eltern);
+    // A scroll field is an input of its own: it takes the focus by Tab and click and moves on
+    // the arrow and page keys.
+    b->setFocusPolicy(Qt::StrongFocus);
+    return platz(b, nullptr, x, y, w, h);
 }
 
 QCheckBox* check(QWidget* eltern, const char* name, const char* t, int x, int y, int w) {

@@ -12,11 +12,15 @@
 #include "ui/Drucken.h"
 #include "ui/QtImportDialoge.h"
 #include "ui/ReportFenster.h"
+#include "ui/Tastatur.h"
 #include "ui/Uebersetzen.h"
 
 #include <QApplication>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -31,8 +35,14 @@ constexpr std::array<const char*, 5> HILFE_ANKER_AUSGABE{"uebersicht", "klima_ge
 
 } // namespace
 
+std::string befehlszeile_aus(const QStringList& argumente) {
+    return argumente.join(QLatin1Char(' ')).toStdString();
+}
+
 Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
     : p(projekt()), klimaordner(datenordner("klima")),
+      einstellungen(benutzerordner().einstellungen), eigene_stationen(benutzerordner().stationen),
+      dokumente(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString()),
       import_dialoge(std::make_unique<QtImportDialoge>()),
       dialoge_(dialoge != nullptr ? dialoge : &qt_dialoge_), sprachwahl_(std::move(sprachwahl)) {
     // The planes were laid out for the small system sans of 8 points. Unlike the charts, whose
@@ -57,6 +67,8 @@ Desktopprogramm::~Desktopprogramm() {
 void Desktopprogramm::starten(const std::string& befehlszeile) {
     befehlszeile_ = befehlszeile;
     p.KlimaOrdner = klimaordner;
+    p.Einstellungen = einstellungen;
+    p.EigeneStationen = eigene_stationen;
     // The splash comes first; the record may have served an earlier program in this process.
     p.Gestartet = 0;
     const std::string grafiken = datenordner("Grafiken");
@@ -74,6 +86,7 @@ void Desktopprogramm::starten(const std::string& befehlszeile) {
         p.Sprache = "d";
         sprachtexte_setzen(p);
     }
+    qt_texte_ = qt_texte_laden(p.Sprache);
     einstellung_.Sprache = p.Sprache;
     einstellung_.dezimal = p.Sprache == "e" ? '.' : ',';
     ebenen = std::make_unique<Eingabeflaechen>(p, einstellung_.dezimal);
@@ -100,7 +113,7 @@ void Desktopprogramm::starten(const std::string& befehlszeile) {
 
 void Desktopprogramm::Timer1_Timer() {
     dialoge_->wartecursor(true);
-    bindungen->ausfuehren([this] { io->start(befehlszeile_, programmordner()); });
+    bindungen->ausfuehren([this] { io->start(befehlszeile_, programmordner(), dokumente); });
     start->hide();
     start->Timer1.stop();
     p.Gestartet = 1;
@@ -164,6 +177,15 @@ void Desktopprogramm::fenster_bauen() {
             unuebersetzt += fenster_uebersetzen(*haupt->ausgabe[i], ausgaben[i]);
         }
     }
+    // By keyboard: the menus open with Alt and a letter in both languages, Tab walks the
+    // input side and then the output side, and a focused scroll field shows a frame.
+    zugriffstasten_setzen(*haupt->menuBar());
+    std::vector<QWidget*> bereiche{haupt->E_Menue};
+    bereiche.insert(bereiche.end(), haupt->eingabe.begin(), haupt->eingabe.end());
+    bereiche.push_back(haupt->A_Menue);
+    bereiche.insert(bereiche.end(), haupt->ausgabe.begin(), haupt->ausgabe.end());
+    tab_reihenfolge(bereiche);
+    fokus_sichtbar_machen(*haupt);
     for (const auto& b : bau.binden) {
         b(*bindungen);
     }

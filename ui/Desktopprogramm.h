@@ -12,14 +12,21 @@
 #include "ui/Hilfefenster.h"
 #include "ui/KlimaimportFenster.h"
 #include "ui/QtDialogs.h"
+#include "ui/QtUebersetzung.h"
 #include "ui/Rechenlauf.h"
 #include "ui/StartFenster.h"
 #include "ui/ZoomFenster.h"
+
+#include <QStringList>
 
 #include <memory>
 #include <string>
 
 struct Projekt;
+
+// The program's arguments, without its own name, as the one command line text the start reads:
+// joined by blanks, each as the system gave it.
+std::string befehlszeile_aus(const QStringList& argumente);
 
 // The desktop program on the record projekt(): the language of the run, the planes and their
 // widgets, the project commands, the start window and the help. Faults of the calculation are
@@ -43,6 +50,11 @@ public:
     // The folder of the station files and of the language file; the delivered klima/ unless
     // set before the start.
     std::string klimaordner;
+    // The user's own folders of an installed program (settings, imported stations), empty for
+    // a run from the build; and the first folder of the file dialogs.
+    std::string einstellungen;
+    std::string eigene_stationen;
+    std::string dokumente;
     std::unique_ptr<Eingabeflaechen> ebenen;
     std::unique_ptr<FILEIO> io;
     std::unique_ptr<Bindungen> bindungen;
@@ -90,6 +102,7 @@ private:
     void klimaimport_zeigen();
 
     QtDialogs qt_dialoge_;
+    std::unique_ptr<QTranslator> qt_texte_;
     Dialogs* dialoge_;
     Sprachwahl sprachwahl_;
     std::string befehlszeile_;

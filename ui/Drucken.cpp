@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Drucken.h"
 
+#include "project/FILEIO.h"
 #include "project/c_glob.h"
 #include "ui/Bau.h"
+#include "ui/QtDialogs.h"
 #include "ui/QtDrucker.h"
 #include "ui/Uebersetzen.h"
 
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinterInfo>
@@ -61,12 +62,8 @@ Drucken::Drucken(const Projekt& p, const Eingabeflaechen& e, char dezimal, QWidg
         drucker_.setPrinterName(QPrinterInfo::defaultPrinter().printerName());
     }
     pdf_ziel = [this]() -> std::optional<std::string> {
-        const QString pfad = QFileDialog::getSaveFileName(this, windowTitle(), QString(),
-                                                          QStringLiteral("PDF (*.pdf)"));
-        if (pfad.isEmpty()) {
-            return std::nullopt;
-        }
-        return pfad.toStdString();
+        return speichern_waehlen(this, "PDF (*.pdf)|*.pdf", 1, dialogordner(p_), true,
+                                 windowTitle());
     };
     melden = [this](const std::string& text) {
         QMessageBox::warning(this, windowTitle(), qs(text));

@@ -5,6 +5,7 @@
 #include "climate/import/importtexte.h"
 #include "climate/import/vorschau.h"
 #include "climate/klimadatei.h"
+#include "climate/stationsordner.h"
 #include "language/Beschriftungen.h"
 #include "project/Dialogs.h"
 #include "project/c_glob.h"
@@ -359,7 +360,7 @@ void KlimaimportFenster::AlleEingabenTesten() {
 }
 
 void KlimaimportFenster::Command2_Click() {
-    ergebnis = klimadaten_importieren(f, p_.KlimaOrdner, p_.Sprache, dialoge_);
+    ergebnis = klimadaten_importieren(f, importordner(p_), p_.Sprache, dialoge_);
     if (ergebnis.ausgang == Importausgang::geschrieben) {
         accept();
     }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/QtDialogs.h"
 
+#include "project/Dateiendung.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QObject>
 
 Dialogs::Antwort QtDialogs::nachricht(const std::string& text, const std::string& titel,
                                       Symbol symbol, Knoepfe knoepfe, bool standard_nein) {
@@ -60,36 +63,52 @@ QStringList qt_filter(const std::string& filter) {
     return namen;
 }
 
-namespace {
-
-std::optional<std::string> datei_waehlen(QWidget* eltern, bool speichern, const std::string& filter,
-                                         int filterindex, const std::string& ordner) {
-    QFileDialog d(eltern, QString(), QString::fromStdString(ordner));
+std::optional<std::string> speichern_waehlen(QWidget* eltern, const std::string& filter,
+                                             int filterindex, const std::string& ordner,
+                                             bool ersetzen_fragen, const QString& titel) {
+    QFileDialog d(eltern, titel, QString::fromStdString(ordner));
     const QStringList namen = qt_filter(filter);
     d.setNameFilters(namen);
     if (filterindex >= 1 && filterindex <= namen.size()) {
         d.selectNameFilter(namen[filterindex - 1]);
     }
-    d.setAcceptMode(speichern ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    d.setFileMode(speichern ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    // The replace prompt is the project commands' own.
-    d.setOption(QFileDialog::DontConfirmOverwrite);
+    d.setAcceptMode(QFileDialog::AcceptSave);
+    d.setFileMode(QFileDialog::AnyFile);
+    d.setOption(QFileDialog::DontConfirmOverwrite, !ersetzen_fragen);
+    // Qt's own dialog adds the extension before it asks about replacing; a native one may not,
+    // so the name is completed once more after it.
+    auto endung = [&d](const QString& name) {
+        d.setDefaultSuffix(QString::fromStdString(filterendung(name.toStdString())).mid(1));
+    };
+    endung(d.selectedNameFilter());
+    QObject::connect(&d, &QFileDialog::filterSelected, &d, endung);
+    if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return endung_ergaenzen(d.selectedFiles().first().toStdString(),
+                            d.selectedNameFilter().toStdString());
+}
+
+std::optional<std::string> QtDialogs::oeffnen_dialog(const std::string& filter, int filterindex,
+                                                     const std::string& ordner) {
+    QFileDialog d(fenster, QString(), QString::fromStdString(ordner));
+    const QStringList namen = qt_filter(filter);
+    d.setNameFilters(namen);
+    if (filterindex >= 1 && filterindex <= namen.size()) {
+        d.selectNameFilter(namen[filterindex - 1]);
+    }
+    d.setAcceptMode(QFileDialog::AcceptOpen);
+    d.setFileMode(QFileDialog::ExistingFile);
     if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
     return d.selectedFiles().first().toStdString();
 }
 
-} // namespace
-
-std::optional<std::string> QtDialogs::oeffnen_dialog(const std::string& filter, int filterindex,
-                                                     const std::string& ordner) {
-    return datei_waehlen(fenster, false, filter, filterindex, ordner);
-}
-
 std::optional<std::string> QtDialogs::speichern_dialog(const std::string& filter, int filterindex,
                                                        const std::string& ordner) {
-    return datei_waehlen(fenster, true, filter, filterindex, ordner);
+    // The replace prompt is the project commands' own.
+    return speichern_waehlen(fenster, filter, filterindex, ordner, false);
 }
 
 void QtDialogs::wartecursor(bool an) {

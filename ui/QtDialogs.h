@@ -32,3 +32,13 @@ public:
 // A filter of the project commands ("Alle Dateien (*.*)|*.*|VELM Dateien (*.vel)|*.vel") as
 // Qt's name filters, one per pair: "Alle Dateien (*.*)", "VELM Dateien (*.vel)".
 QStringList qt_filter(const std::string& filter);
+
+class QWidget;
+
+// The platform's save dialog in `ordner` with the filters of `filter` (the same form), the one
+// of `filterindex` chosen. A name without extension gets the chosen filter's; Qt asks before it
+// replaces a file unless the caller asks itself (`ersetzen_fragen` false).
+std::optional<std::string> speichern_waehlen(QWidget* eltern, const std::string& filter,
+                                             int filterindex, const std::string& ordner,
+                                             bool ersetzen_fragen,
+                                             const QString& titel = QString());

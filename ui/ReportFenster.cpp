@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ReportFenster.h"
 
+#include "project/FILEIO.h"
 #include "project/c_glob.h"
 #include "report/Report.h"
 #include "report/RtfLeser.h"
 #include "report/Temperaturverlauf.h"
 #include "ui/Bau.h"
+#include "ui/QtDialogs.h"
 #include "ui/RtfAnzeige.h"
 
-#include <QFileDialog>
 #include <QFrame>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -22,18 +23,6 @@ constexpr int KNOPF_BREITE = 28, KNOPF_ABSTAND = 32, KNOPF_HOEHE = 24;
 constexpr int SPEICHERN_BREITE = 110, SCHLIESSEN_BREITE = 90;
 // Under the display: the marker row and the button row.
 constexpr int FUSS = 44;
-
-// The save dialog of the platform with its replace prompt; the filter's part before "|" names
-// the files.
-std::optional<std::string> qt_speichern(QWidget* eltern, const std::string& filter) {
-    const std::string name = filter.substr(0, filter.find('|'));
-    const QString pfad =
-        QFileDialog::getSaveFileName(eltern, QString(), QString(), QString::fromStdString(name));
-    if (pfad.isEmpty()) {
-        return std::nullopt;
-    }
-    return pfad.toStdString();
-}
 
 } // namespace
 
@@ -79,8 +68,9 @@ ReportFenster::ReportFenster(const Projekt& p, const Eingabeflaechen& ebenen, Mo
     Command_Schliessen->setProperty("zeile", 1);
     connect(Command_Speichern, &QPushButton::clicked, this, [this] { Command_Speichern_Click(); });
     connect(Command_Schliessen, &QPushButton::clicked, this, &QDialog::close);
-    speichern_dialog = [this](const std::string& filter, int) {
-        return qt_speichern(this, filter);
+    // The platform's dialog with its replace prompt, in the project's folder.
+    speichern_dialog = [this](const std::string& filter, int index) {
+        return speichern_waehlen(this, filter, index, dialogordner(p_), true);
     };
 
     // The buttons stay in one row at the bottom: the least width holds them all.

@@ -6,6 +6,7 @@
 #include "climate/import/zahltext.h"
 
 #include <cmath>
+#include <filesystem>
 #include <map>
 
 namespace {
@@ -191,6 +192,13 @@ int befehl_import(const std::vector<std::string>& args, std::ostream& aus, std::
                << "\", longitude (--laenge) \"" << f.Laengengrad << "\" and zone (--zone) \""
                << f.Zeitzone << "\"\n";
         return 1;
+    }
+    // An installed program imports into the user's own station folder.
+    const std::string eigene = benutzerordner().stationen;
+    if (klima == datenordner("klima") && !eigene.empty()) {
+        klima = eigene;
+        std::error_code fehlt;
+        std::filesystem::create_directories(klima, fehlt);
     }
     Terminaldialoge dialoge(aus, fehler, name, ueberschreiben);
     const Importergebnis ergebnis = klimadaten_importieren(f, klima, sprache, dialoge);

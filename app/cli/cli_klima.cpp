@@ -17,8 +17,8 @@ const char* const AUFRUF = "usage: velmaris-cli klima stationen [--klima DIR]\n"
                            "       velmaris-cli klima plz CODE [--klima DIR]\n"
                            "       velmaris-cli klima region X Y [--programm DIR]\n";
 
-int stationen(const std::string& klima, std::ostream& aus) {
-    const Stationslisten l = stationslisten_bauen(klima);
+int stationen(const std::vector<std::string>& ordner, std::ostream& aus) {
+    const Stationslisten l = stationslisten_bauen(ordner);
     aus << "file\tname\tworld_x\tworld_y\teurope_x\teurope_y\n";
     for (int i = 0; i < l.Welt.anzahl(); ++i) {
         const auto k = static_cast<std::size_t>(i);
@@ -80,7 +80,13 @@ int befehl_klima(const std::vector<std::string>& args, std::ostream& aus, std::o
         }
     }
     if (worte.size() == 1 && worte[0] == "stationen") {
-        return stationen(klima, aus);
+        // The delivered stations come with the user's own imports, unless a folder is given.
+        std::vector<std::string> ordner{klima};
+        const std::string eigene = benutzerordner().stationen;
+        if (klima == datenordner("klima") && !eigene.empty()) {
+            ordner.insert(ordner.begin(), eigene);
+        }
+        return stationen(ordner, aus);
     }
     if (worte.size() == 2 && worte[0] == "plz") {
         return plz(klima, worte[1], aus, fehler);

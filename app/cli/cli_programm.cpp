@@ -24,6 +24,11 @@ std::optional<std::string> KonsolenDialogs::speichern_dialog(const std::string&,
 KonsolenProgramm::KonsolenProgramm(const std::string& klima, const std::string& sprache)
     : p(projekt()) {
     p.KlimaOrdner = klima;
+    if (klima == datenordner("klima")) {
+        const Benutzerordner eigene = benutzerordner();
+        p.Einstellungen = eigene.einstellungen;
+        p.EigeneStationen = eigene.stationen;
+    }
     // Without a language file and without a choice the run speaks German.
     sprache_beim_start(p, sprache, [] { return std::string(); });
     if (p.Sprache.empty()) {
@@ -32,7 +37,7 @@ KonsolenProgramm::KonsolenProgramm(const std::string& klima, const std::string& 
     }
     ebenen = std::make_unique<Eingabeflaechen>(p);
     io = std::make_unique<FILEIO>(p, *ebenen, dialogs);
-    io->start(std::string(), programmordner());
+    io->start(std::string(), programmordner(), programmordner());
 }
 
 int KonsolenProgramm::oeffnen(const std::string& pfad, std::ostream& fehler) {

@@ -13,7 +13,7 @@ int main(int argc, char* argv[]) {
     teile.removeFirst();
     Desktopprogramm programm;
     try {
-        programm.starten(teile.join(QLatin1Char(' ')).toStdString());
+        programm.starten(befehlszeile_aus(teile));
     } catch (const FatalError& f) {
         // Before any project is open (the language file cannot be written): the message, then
         // the end of the program.

@@ -139,3 +139,27 @@ TEST(Sprache, PlanesFillTheirListsInTheLanguageOfTheRun) {
               "Wärmeschutz-Doppelverglasung (U = 1,4 W/(m² K))");
     EXPECT_EQ(deutsch.e->daemmung.ogd.Text(), "Außen oder nicht gedämmtes Dach");
 }
+
+TEST(Sprache, InstalledProgramReadsTheUsersFileFirstAndWritesOnlyThere) {
+    Sprachumgebung u;
+    TempOrdner heim;
+    u.p->Einstellungen = (heim.pfad() / ".config" / "velmaris").string();
+    // A language file delivered with the stations answers until the user has chosen.
+    u.ordner.schreiben("typ.dat", "e\r\n");
+    int gefragt = 0;
+    const Sprachwahl wahl = [&gefragt] {
+        ++gefragt;
+        return std::string("d");
+    };
+    sprache_lesen(*u.p, wahl);
+    EXPECT_EQ(u.p->Sprache, "e");
+    EXPECT_EQ(gefragt, 0);
+    // The menu's choice goes to the user's folder, made on the way; the delivered file stays.
+    SkriptDialogs d;
+    sprache_merken(*u.p, d, "d");
+    EXPECT_EQ(datei_lesen(heim.pfad() / ".config" / "velmaris" / "typ.dat"), "d\r\n");
+    EXPECT_EQ(datei_lesen(u.ordner.pfad() / "typ.dat"), "e\r\n");
+    sprache_lesen(*u.p, wahl);
+    EXPECT_EQ(u.p->Sprache, "d");
+    EXPECT_EQ(gefragt, 0);
+}

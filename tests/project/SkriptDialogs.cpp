@@ -13,7 +13,7 @@ Programm::Programm(const std::string& sprache) : p(leeres_projekt()) {
     sprachtexte_setzen(*p);
     e = std::make_unique<Eingabeflaechen>(*p);
     io = std::make_unique<FILEIO>(*p, *e, dialogs);
-    io->start("", ordner.pfad().string());
+    io->start("", ordner.pfad().string(), ordner.pfad().string());
 }
 
 std::vector<std::string> Programm::zeilen(const std::string& pfad) const {

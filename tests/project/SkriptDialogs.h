@@ -27,6 +27,7 @@ public:
     std::deque<std::optional<std::string>> dateien; // answers of the file dialogs
     std::vector<Nachricht> nachrichten;
     std::vector<std::string> dialoge; // "oeffnen" or "speichern", with filter and index
+    std::vector<std::string> ordner;  // the first folder of each file dialog
     std::string titel;
     int erste_ebenen = 0;
     // Runs while a message is shown, as a modal box runs the event loop.
@@ -48,13 +49,15 @@ public:
         return a;
     }
     std::optional<std::string> oeffnen_dialog(const std::string& filter, int index,
-                                              const std::string&) override {
+                                              const std::string& erster) override {
         dialoge.push_back("oeffnen " + filter + " " + std::to_string(index));
+        ordner.push_back(erster);
         return naechste_datei();
     }
     std::optional<std::string> speichern_dialog(const std::string& filter, int index,
-                                                const std::string&) override {
+                                                const std::string& erster) override {
         dialoge.push_back("speichern " + filter + " " + std::to_string(index));
+        ordner.push_back(erster);
         return naechste_datei();
     }
     void titel_setzen(const std::string& t) override { titel = t; }

@@ -310,23 +310,66 @@ TEST(FILEIO, LeavingAsksOnlyAfterAChange) {
     EXPECT_EQ(prog.p->Datei_offen, 0);
 }
 
-TEST(FILEIO, CommandLine) {
-    EXPECT_EQ(projekt_aus_befehlszeile("\"C:\\Proj\\Haus.VEL\""), "c:\\proj\\haus.vel");
-    EXPECT_EQ(projekt_aus_befehlszeile("/tmp/Haus.vel"), "/tmp/haus.vel");
-    EXPECT_EQ(projekt_aus_befehlszeile(".vel"), "");
-    EXPECT_EQ(projekt_aus_befehlszeile("e"), "");
-    EXPECT_EQ(initdir_aus_befehlszeile("e", "/prog"), "/prog");
-    EXPECT_EQ(initdir_aus_befehlszeile("x|/a|/daten", "/prog"), "/daten");
-    EXPECT_EQ(initdir_aus_befehlszeile("/daten", "/prog"), "/daten");
+TEST(FILEIO, CommandLineKeepsThePathAsGiven) {
+    struct Fall {
+        const char* zeile;
+        const char* projekt;
+        const char* erster_ordner;
+    };
+    for (const Fall& f : {
+             Fall{"\"/Proj/Mein Haus.VEL\"", "/Proj/Mein Haus.VEL", "/doc"},
+             Fall{"/tmp/Häuser/Süd.vel", "/tmp/Häuser/Süd.vel", "/doc"},
+             Fall{".vel", "", "/doc"},
+             Fall{"e", "", "/doc"},
+             Fall{"x|/a|/Daten", "", "/Daten"},
+         }) {
+        EXPECT_EQ(projekt_aus_befehlszeile(f.zeile), f.projekt) << f.zeile;
+        EXPECT_EQ(initdir_aus_befehlszeile(f.zeile, "/doc"), f.erster_ordner) << f.zeile;
+    }
+}
 
+TEST(FILEIO, ProjectInAFolderWithCapitalsAndSpacesOpensFromTheCommandLine) {
     Programm prog;
-    prog.ordner.schreiben("haus.vel", projektdatei(prog, {{3, " 14"}}));
+    fs::create_directories(prog.ordner.pfad() / "Meine Projekte" / "Klasse 7b");
+    const std::string pfad = prog.pfad("Meine Projekte/Klasse 7b/Haus Süd.vel");
+    prog.ordner.schreiben("Meine Projekte/Klasse 7b/Haus Süd.vel",
+                          projektdatei(prog, {{3, " 14"}}));
+    // A lower-case file named in capitals is found too; an existing path is never lowered.
+    fs::create_directories(prog.ordner.pfad() / "klein");
+    prog.ordner.schreiben("klein/haus.vel", projektdatei(prog, {{3, " 11"}}));
+    struct Fall {
+        std::string zeile;
+        float b;
+        std::string titel;
+    };
+    for (const Fall& f : {
+             Fall{"\"" + pfad + "\"", 14.0f, "Velmaris - HAUS SÜD.VEL"},
+             Fall{pfad, 14.0f, "Velmaris - HAUS SÜD.VEL"},
+             Fall{prog.pfad("klein/HAUS.VEL"), 11.0f, "Velmaris - HAUS.VEL"},
+         }) {
+        Programm zweites;
+        zweites.io->start(f.zeile, "/prog", "/doc");
+        EXPECT_TRUE(zweites.dialogs.texte().empty()) << f.zeile;
+        EXPECT_FLOAT_EQ(zweites.p->b, f.b) << f.zeile;
+        EXPECT_EQ(zweites.dialogs.titel, f.titel);
+        EXPECT_EQ(zweites.p->AppPfad, "/prog");
+        EXPECT_EQ(zweites.p->InitDir, "/doc");
+    }
+}
+
+TEST(FILEIO, DialogsStartInTheFolderOfTheProject) {
+    Programm prog;
+    fs::create_directories(prog.ordner.pfad() / "Projekte A");
+    const std::string pfad = prog.pfad("Projekte A/haus.vel");
+    prog.ordner.schreiben("Projekte A/haus.vel", projektdatei(prog, {{3, " 14"}}));
     Programm zweites;
-    zweites.io->start("\"" + prog.pfad("haus.vel") + "\"", "/prog");
-    EXPECT_FLOAT_EQ(zweites.p->b, 14.0f);
-    EXPECT_EQ(zweites.dialogs.titel, "Velmaris - HAUS.VEL");
-    EXPECT_EQ(zweites.p->AppPfad, "/prog");
-    EXPECT_EQ(zweites.io->hilfe_datei(), "/prog/Velmaris_d.chm");
+    zweites.io->start("d|/Unterricht", "/prog", "/doc");
+    EXPECT_EQ(dialogordner(*zweites.p), "/Unterricht");
+    zweites.dialogs.dateien = {pfad, std::nullopt};
+    zweites.io->datei_oeffnen("");
+    zweites.io->datei_speichern_unter();
+    EXPECT_EQ(zweites.dialogs.ordner,
+              (std::vector<std::string>{"/Unterricht", prog.pfad("Projekte A")}));
 }
 
 TEST(FILEIO, MissingStationOfTheProjectFallsBackWithTheClimateMessage) {

@@ -28,6 +28,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -351,6 +352,66 @@ private slots:
         QCOMPARE(z[2], std::string("L\xe4ngengrad:   -7.43"));
         QCOMPARE(z[3], std::string("Zeitzone:     -1"));
         QCOMPARE(z[7], std::string("    1  1.5   20    5"));
+    }
+
+    void installiertes_programm_schreibt_nur_in_die_ordner_des_nutzers() {
+        // An installed program: the delivered folder belongs to the system, the language and the
+        // imported stations to the user's folders, which do not exist before the first start.
+        TempOrdner heim;
+        const fs::path einstellungen = heim.pfad() / ".config" / "velmaris";
+        const fs::path stationen = heim.pfad() / ".local" / "share" / "velmaris" / "klima";
+        auto inhalt = [](const fs::path& ordner) {
+            std::vector<std::string> namen;
+            for (const auto& e : fs::directory_iterator(ordner)) {
+                namen.push_back(e.path().filename().string() + " " +
+                                std::to_string(fs::file_size(e.path())));
+            }
+            std::sort(namen.begin(), namen.end());
+            return namen;
+        };
+        const std::vector<std::string> geliefert = inhalt(klima->pfad());
+        int gefragt = 0;
+        auto starten = [&] {
+            programm.reset();
+            dialoge = std::make_unique<SkriptDialogs>();
+            programm = std::make_unique<Desktopprogramm>(dialoge.get(), [&gefragt] {
+                ++gefragt;
+                return std::string("e");
+            });
+            programm->klimaordner = klima->pfad().string();
+            programm->einstellungen = einstellungen.string();
+            programm->eigene_stationen = stationen.string();
+            programm->starten("");
+            programm->Timer1_Timer();
+            QVERIFY(programm->haupt->isVisible());
+        };
+        starten();
+        QCOMPARE(gefragt, 1);
+        QCOMPARE(datei_inhalt(einstellungen / "typ.dat"), std::string("e\r\n"));
+
+        auto skript = std::make_unique<Skriptnutzer>();
+        nutzer = skript.get();
+        programm->import_dialoge = std::move(skript);
+        programm->haupt->findChild<QAction*>(QStringLiteral("mnuKlimaImportieren"))->trigger();
+        KlimaimportFenster& w = *programm->klimaimport;
+        quelle(w, quellen.schreiben("Bern.dat", meteonorm()));
+        QTest::keyClicks(w.Land, QStringLiteral("Schweiz"));
+        nutzer->name = "bern_eigen";
+        QTest::mouseClick(w.Command2, Qt::LeftButton);
+        QVERIFY(fs::exists(stationen / "bern_eigen.met"));
+
+        // The next start remembers the language and lists the own station beside the delivered.
+        starten();
+        QCOMPARE(gefragt, 1);
+        QCOMPARE(programm->p.Sprache, std::string("e"));
+        const Stationslisten& l = programm->ebenen->klima.listen;
+        QVERIFY(l.Welt.suchen("bern_eigen.met") >= 0);
+        QVERIFY(l.Welt.suchen("trier.met") >= 0);
+        Projekt& p = programm->p;
+        p.Klimadatei = "bern_eigen.met";
+        klimadatei_lesen(p);
+        QVERIFY(std::abs(p.Breite - 46.95f * 0.01745f) < 1e-6f);
+        QVERIFY(inhalt(klima->pfad()) == geliefert);
     }
 
     void leerzeichengetrennte_spalten_rechtsbuendig() {
