@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
 #include "app/cli/cli_programm.h"
 #include "app/cli/ergebnis_json.h"
@@ -29,8 +30,7 @@ int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::os
         }
     }
     if (neu == !datei.empty()) {
-        fehler << "usage: velmaris-cli calc (--new | PROJECT.vel [--sprache d|e]) [--klima DIR] "
-                  "[--hourly]\n";
+        fehler << aufruf("calc");
         return 1;
     }
     if (!datei.empty()) {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/cli/cli_dateiargumente.h"
 
-bool dateiargumente_lesen(const char* befehl, const char* aufruf,
-                          const std::vector<std::string>& args,
+#include "app/cli/aufrufe.h"
+
+bool dateiargumente_lesen(const char* befehl, const std::vector<std::string>& args,
                           const std::vector<Wertoption>& optionen, Dateiargumente& a,
                           std::ostream& fehler) {
     std::vector<std::string> dateien;
@@ -32,7 +33,7 @@ bool dateiargumente_lesen(const char* befehl, const char* aufruf,
         }
     }
     if (dateien.size() != 2) {
-        fehler << "usage: velmaris-cli " << befehl << " " << aufruf << "\n";
+        fehler << aufruf(befehl);
         return false;
     }
     a.projekt = dateien[0];

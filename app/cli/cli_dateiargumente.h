@@ -24,8 +24,7 @@ struct Wertoption {
 };
 
 // Reads the arguments of `befehl`; false with a message on `fehler` for a wrong one, and with the
-// usage `aufruf` unless there are exactly two files.
-bool dateiargumente_lesen(const char* befehl, const char* aufruf,
-                          const std::vector<std::string>& args,
+// command's usage unless there are exactly two files.
+bool dateiargumente_lesen(const char* befehl, const std::vector<std::string>& args,
                           const std::vector<Wertoption>& optionen, Dateiargumente& a,
                           std::ostream& fehler);

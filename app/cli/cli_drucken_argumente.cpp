@@ -32,7 +32,7 @@ bool seiten_lesen(const std::string& liste, Druckauswahl& auswahl) {
 bool druckargumente_lesen(const std::vector<std::string>& args, Druckargumente& a,
                           std::ostream& fehler) {
     return dateiargumente_lesen(
-        "drucken", "PROJECT.vel OUT.pdf [--seiten 1,3,5] [--sprache d|e] [--klima DIR]", args,
+        "drucken", args,
         {{"--seiten", "--seiten takes option numbers 1..7 such as 1,3,5, each once",
           [&a](const std::string& liste) { return seiten_lesen(liste, a.auswahl); }}},
         a, fehler);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
 #include "app/cli/pfade.h"
 #include "climate/import/importieren.h"
@@ -10,14 +11,6 @@
 #include <map>
 
 namespace {
-
-const char* const AUFRUF =
-    "usage: velmaris-cli import SOURCE --name NAME [--ort PLACE] [--land COUNTRY] [--klima DIR]\n"
-    "         [--format auto|epw|try|mos|nsrdb|pvgis|meteonorm|spalten]\n"
-    "         [--breite DEG] [--laenge DEG] [--zone HOURS]   (north, east, east of Greenwich "
-    "positive)\n"
-    "         [--kopfzeilen N] [--trennung tab|links|rechts] [--komma]\n"
-    "         [--spalte N=ta|gesamt|direkt|diffus]... [--ueberschreiben] [--sprache d|e]\n";
 
 // The messages go to the terminal; the name question is answered by --name, the overwrite
 // question by --ueberschreiben.
@@ -96,12 +89,13 @@ int befehl_import(const std::vector<std::string>& args, std::ostream& aus, std::
         } else if (a.rfind("--", 0) != 0 && quelle.empty()) {
             quelle = a;
         } else {
-            fehler << "velmaris-cli import: unexpected argument \"" << a << "\"\n" << AUFRUF;
+            fehler << "velmaris-cli import: unexpected argument \"" << a << "\"\n"
+                   << aufruf("import");
             return 1;
         }
     }
     if (quelle.empty() || name.empty() || (sprache != "d" && sprache != "e")) {
-        fehler << AUFRUF;
+        fehler << aufruf("import");
         return 1;
     }
 
@@ -128,7 +122,7 @@ int befehl_import(const std::vector<std::string>& args, std::ostream& aus, std::
     } else if (format != "auto") {
         const auto gewaehlt = formate.find(format);
         if (gewaehlt == formate.end()) {
-            fehler << AUFRUF;
+            fehler << aufruf("import");
             return 1;
         }
         if (gewaehlt->second != f.Format) {
@@ -185,12 +179,25 @@ int befehl_import(const std::vector<std::string>& args, std::ostream& aus, std::
         f.Spaltenbelegung[static_cast<std::size_t>(nummer)] = art->second;
     }
 
-    if (!AlleEingabenTesten(f)) {
-        fehler << "velmaris-cli import: the import needs place (--ort) \"" << f.Standortname
-               << "\", country (--land) \"" << f.Land << "\", head lines (--kopfzeilen) \""
-               << f.Kopfzeilen << "\", latitude (--breite) \"" << f.Breitengrad
-               << "\", longitude (--laenge) \"" << f.Laengengrad << "\" and zone (--zone) \""
-               << f.Zeitzone << "\"\n";
+    const std::vector<Importeingabe> fehlt = fehlende_eingaben(f);
+    if (!fehlt.empty()) {
+        // Only what is missing, by the option that gives it; the source's head fills in the rest.
+        const std::map<Importeingabe, const char*> optionen = {
+            {Importeingabe::Quelle, "the source (SOURCE)"},
+            {Importeingabe::Ort, "the place (--ort)"},
+            {Importeingabe::Land, "the country (--land)"},
+            {Importeingabe::Kopfzeilen, "the number of head lines (--kopfzeilen)"},
+            {Importeingabe::Breite, "the latitude (--breite)"},
+            {Importeingabe::Laenge, "the longitude (--laenge)"},
+            {Importeingabe::Zone, "the time zone (--zone)"}};
+        fehler << "velmaris-cli import: missing ";
+        for (std::size_t i = 0; i < fehlt.size(); ++i) {
+            fehler << (i == 0                  ? ""
+                       : i + 1 == fehlt.size() ? " and "
+                                               : ", ")
+                   << optionen.at(fehlt[i]);
+        }
+        fehler << "\n" << aufruf("import");
         return 1;
     }
     // An installed program imports into the user's own station folder.

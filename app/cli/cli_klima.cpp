@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
 #include "app/cli/pfade.h"
 #include "climate/Bitmap.h"
@@ -12,10 +13,6 @@
 #include <filesystem>
 
 namespace {
-
-const char* const AUFRUF = "usage: velmaris-cli klima stationen [--klima DIR]\n"
-                           "       velmaris-cli klima plz CODE [--klima DIR]\n"
-                           "       velmaris-cli klima region X Y [--programm DIR]\n";
 
 int stationen(const std::vector<std::string>& ordner, std::ostream& aus) {
     const Stationslisten l = stationslisten_bauen(ordner);
@@ -94,6 +91,6 @@ int befehl_klima(const std::vector<std::string>& args, std::ostream& aus, std::o
     if (worte.size() == 3 && worte[0] == "region") {
         return region(programm, worte[1], worte[2], aus);
     }
-    fehler << AUFRUF;
+    fehler << aufruf("klima");
     return 1;
 }

@@ -16,9 +16,9 @@ int befehl_report(const std::vector<std::string>& args, std::ostream&, std::ostr
         seite = w[0] - '0';
         return true;
     };
-    if (!dateiargumente_lesen(
-            "report", "PROJECT.vel OUT.rtf [--sprache d|e] [--seite 0..7] [--klima DIR]", args,
-            {{"--seite", "--seite takes 0 (all pages) to 7", seite_lesen}}, a, fehler)) {
+    if (!dateiargumente_lesen("report", args,
+                              {{"--seite", "--seite takes 0 (all pages) to 7", seite_lesen}}, a,
+                              fehler)) {
         return 1;
     }
     KonsolenProgramm programm(a.klima.empty() ? datenordner("klima") : a.klima, a.sprache);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
 #include "app/cli/cli_programm.h"
 #include "app/cli/pfade.h"
@@ -20,7 +21,7 @@ int befehl_save(const std::vector<std::string>& args, std::ostream&, std::ostrea
         }
     }
     if (ziel.empty()) {
-        fehler << "usage: velmaris-cli save OUT.vel [--from PROJECT.vel] [--klima DIR]\n";
+        fehler << aufruf("save");
         return 1;
     }
     KonsolenProgramm programm(klima, std::string());

@@ -9,8 +9,7 @@
 
 int befehl_temperaturen(const std::vector<std::string>& args, std::ostream&, std::ostream& fehler) {
     Dateiargumente a;
-    if (!dateiargumente_lesen("temperaturen", "PROJECT.vel OUT.txt [--sprache d|e] [--klima DIR]",
-                              args, {}, a, fehler)) {
+    if (!dateiargumente_lesen("temperaturen", args, {}, a, fehler)) {
         return 1;
     }
     KonsolenProgramm programm(a.klima.empty() ? datenordner("klima") : a.klima, a.sprache);

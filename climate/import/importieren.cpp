@@ -212,15 +212,32 @@ bool quelle_kopf_lesen(Klimaimport& f) {
     return true;
 }
 
-bool AlleEingabenTesten(const Klimaimport& f) {
+std::vector<Importeingabe> fehlende_eingaben(const Klimaimport& f) {
     auto zahl = [&f](const std::string& text) {
         double wert = 0;
         bool ok = false;
         StringToReal(text, wert, ok, f.Dezimalzeichen);
         return ok;
     };
-    return !f.DateinameBox.empty() && !f.Standortname.empty() && !f.Land.empty() &&
-           zahl(f.Kopfzeilen) && zahl(f.Breitengrad) && zahl(f.Laengengrad) && zahl(f.Zeitzone);
+    std::vector<Importeingabe> fehlt;
+    const std::pair<bool, Importeingabe> pruefungen[] = {
+        {!f.DateinameBox.empty(), Importeingabe::Quelle},
+        {!f.Standortname.empty(), Importeingabe::Ort},
+        {!f.Land.empty(), Importeingabe::Land},
+        {zahl(f.Kopfzeilen), Importeingabe::Kopfzeilen},
+        {zahl(f.Breitengrad), Importeingabe::Breite},
+        {zahl(f.Laengengrad), Importeingabe::Laenge},
+        {zahl(f.Zeitzone), Importeingabe::Zone}};
+    for (const auto& [da, eingabe] : pruefungen) {
+        if (!da) {
+            fehlt.push_back(eingabe);
+        }
+    }
+    return fehlt;
+}
+
+bool AlleEingabenTesten(const Klimaimport& f) {
+    return fehlende_eingaben(f).empty();
 }
 
 std::string standardname(const std::string& DateinameBox) {

@@ -9,6 +9,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 // What the import needs of the user: one-button messages, the input box and the yes/no question.
 class ImportDialoge {
@@ -55,6 +56,10 @@ bool quelle_kopf_lesen(Klimaimport& f);
 // Whether the import may start: a source, place and country are given and head lines, latitude,
 // longitude and zone are numbers.
 bool AlleEingabenTesten(const Klimaimport& f);
+
+// The inputs that keep the import from starting, in the order of the window.
+enum class Importeingabe { Quelle, Ort, Land, Kopfzeilen, Breite, Laenge, Zone };
+std::vector<Importeingabe> fehlende_eingaben(const Klimaimport& f);
 
 // The proposed file name: the source's name without drive, folders and the last extension.
 std::string standardname(const std::string& DateinameBox);

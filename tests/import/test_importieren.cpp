@@ -181,6 +181,17 @@ TEST(Import, AllInputsMustBeGiven) {
     EXPECT_FALSE(AlleEingabenTesten(komma));
     komma.Dezimalzeichen = 1;
     EXPECT_TRUE(AlleEingabenTesten(komma));
+
+    // What is missing is named one by one, in the window's order, and nothing else.
+    EXPECT_TRUE(fehlende_eingaben(f).empty());
+    EXPECT_EQ(fehlende_eingaben(ohne_land), std::vector<Importeingabe>{Importeingabe::Land});
+    Klimaimport leer = f;
+    leer.Standortname.clear();
+    leer.Kopfzeilen = "";
+    leer.Zeitzone = "x";
+    EXPECT_EQ(fehlende_eingaben(leer),
+              (std::vector<Importeingabe>{Importeingabe::Ort, Importeingabe::Kopfzeilen,
+                                          Importeingabe::Zone}));
 }
 
 TEST(Import, BlankSeparatedRightAlignedSource) {
