@@ -18,8 +18,9 @@
 
 namespace {
 
-// Opens `text` as the program does right after its start, on a new project with fresh planes and
-// the station folder empty so that no climate is read; every input starts from the same state.
+// Opens `text` as the program does right after its start, on a new project shown on fresh planes
+// and the station folder empty so that no climate is read; every input starts from the same
+// state.
 bool oeffnen(Projekt& p, Dialogs& dialogs, std::string_view text) {
     static const auto neu = [] {
         auto n = std::make_unique<Projekt>();
@@ -31,6 +32,8 @@ bool oeffnen(Projekt& p, Dialogs& dialogs, std::string_view text) {
     Eingabeflaechen ebenen(p);
     p.FormLoadGuard = -1;
     p.Klimaauswahl = 0;
+    // The planes show the new project before anything is opened, as at the program's start.
+    eingaben_anzeigen(p, ebenen, dialogs);
     if (!datei_lesen(p, ebenen, dialogs, text)) {
         return false;
     }
