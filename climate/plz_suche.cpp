@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/plz_suche.h"
 
-#include "project/Textkanal.h"
 #include "climate/klimaregionen.h"
 #include "climate/numerisch.h"
 #include "project/FatalError.h"
+#include "project/Textkanal.h"
 
 #include <fstream>
 #include <iterator>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/stationslisten.h"
 
-#include "project/Textkanal.h"
 #include "climate/numerisch.h"
 #include "project/Listeneingabe.h"
+#include "project/Textkanal.h"
 #include "project/Zahltext.h"
 
 #include <algorithm>

@@ -4,9 +4,9 @@
 // refuses with FatalError, never more.
 #include "climate/Bitmap.h"
 #include "climate/E_Klima.h"
-#include "project/Textkanal.h"
 #include "climate/plz_suche.h"
 #include "project/FatalError.h"
+#include "project/Textkanal.h"
 
 #include <cstddef>
 #include <cstdint>

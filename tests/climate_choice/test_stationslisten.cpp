@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Building the station lists from the files of a klima folder.
-#include "project/Textkanal.h"
 #include "climate/stationslisten.h"
+#include "project/Textkanal.h"
 #include "project/Zahltext.h"
 #include "tests/climate_choice/Klimahilfe.h"
 
