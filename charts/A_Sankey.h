@@ -32,7 +32,8 @@ Transmissionsteilung transmissionsteilung(const Projekt& p, const SankeyHeizenMa
 // the right, the transmission split by building part.
 void SankeyHeizen(const Projekt& p, SankeyFlaechen& f, const Diagrammeinstellung& e);
 
-// The pixel widths of the cooling diagram on a surface `H` pixels high.
+// The pixel widths and the places of the pieces of the cooling diagram on a surface `H` pixels
+// high whose texts are `zeile` pixels high.
 struct SankeyKuehlenMasse {
     // Year sums of the four causes of the cooling demand per m², kWh/(m² a): transmission,
     // ventilation, solar and internal gains; C their sum, E = C / Klimaeffizienz the electricity,
@@ -42,8 +43,11 @@ struct SankeyKuehlenMasse {
     int bTeil[4] = {0, 0, 0, 0}; // pixel widths of the four inlets
     int bC = 0, bE = 0, bP = 0, bL = 0;
     int y0 = 30; // top of the stack of cooling demand over end energy
+    // Columns: the bend where the loss leaves the primary band, the tails and the ends of the
+    // inlets' straight pieces, the start of the collected band and the cooling device.
+    double xBogen = 60, xEinlass = 160, xEinlassEnde = 200, xSammel = 230, xGeraet = 300;
 };
-SankeyKuehlenMasse sankey_kuehlen_masse(const Projekt& p, double H);
+SankeyKuehlenMasse sankey_kuehlen_masse(const Projekt& p, double H, double zeile);
 
 // The cooling energy flow on Sankey_Kuehlen: the four surplus gains collected into the cooling
 // demand, the electricity from primary to end energy, and both leaving as removed heat and

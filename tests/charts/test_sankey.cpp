@@ -302,13 +302,13 @@ TEST(SankeyKuehlen, FlowsOfACoolingBuilding) {
     auto p = kuehlprojekt(o, "d");
     Sankey sk;
     SankeyKuehlen(*p, sk.f, einstellung("d"));
-    const auto m = sankey_kuehlen_masse(*p, 300);
+    const auto m = sankey_kuehlen_masse(*p, 300, 11);
     ASSERT_GT(m.bC, 0);
     EXPECT_EQ(m.bC, m.bTeil[0] + m.bTeil[1] + m.bTeil[2] + m.bTeil[3]);
     EXPECT_EQ(m.bE, static_cast<int>(m.bC / p->Klimaeffizienz));
     EXPECT_LE(m.bL, 80);
-    // The stack of cooling demand over end energy ends 60 pixels above the bottom.
-    EXPECT_EQ(m.y0, 300 - m.bC - m.bE - 60);
+    // Under the stack of cooling demand over end energy stands a block of seven text lines.
+    EXPECT_EQ(m.y0, 300 - m.bC - m.bE - (4 + 7 * 11 + 1));
     const RecordingSurface& s = sk.Sankey_Kuehlen;
     // At x 250 the collected band and the end energy band lie one over the other.
     EXPECT_EQ(pixel_in_spalte(s, 250, 0, 299, KUEHLBAND), m.bC + m.bE);
@@ -318,7 +318,7 @@ TEST(SankeyKuehlen, FlowsOfACoolingBuilding) {
     const int yP = m.y0 + m.bC + m.bE - 1;
     EXPECT_EQ(s.pixel(409, yP - m.bE / 2), KUEHLBAND);
     // The loss turns upward and its head ends at y 25.
-    EXPECT_NEAR(oberste_zeile(s, 70 + m.bL / 2, KUEHLBAND), 25, 1);
+    EXPECT_NEAR(oberste_zeile(s, static_cast<int>(m.xBogen) + 10 + m.bL / 2, KUEHLBAND), 25, 1);
     // The single bend is drawn among the pieces, after the inlets.
     EXPECT_EQ(s.of_kind(Kind::Pie).size(), 1u);
     EXPECT_EQ(s.prints("Überschüssige").size(), 1u);
@@ -334,9 +334,9 @@ TEST(SankeyKuehlen, FlowsOfACoolingBuilding) {
 TEST(SankeyKuehlen, ASmallEfficiencyCapsTheLossAtEightyPixelsAndShrinksTheRest) {
     TempOrdner o;
     auto p = kuehlprojekt(o, "e");
-    const auto vorher = sankey_kuehlen_masse(*p, 300);
+    const auto vorher = sankey_kuehlen_masse(*p, 300, 11);
     p->Klimaeffizienz = 1;
-    const auto m = sankey_kuehlen_masse(*p, 300);
+    const auto m = sankey_kuehlen_masse(*p, 300, 11);
     EXPECT_LE(m.bL, 80);
     EXPECT_GE(m.bL, 78);
     EXPECT_LT(m.bC, vorher.bC);
@@ -344,6 +344,87 @@ TEST(SankeyKuehlen, ASmallEfficiencyCapsTheLossAtEightyPixelsAndShrinksTheRest) 
     SankeyKuehlen(*p, sk.f, einstellung("e"));
     EXPECT_EQ(sk.Sankey_Kuehlen.prints("Waste heat from cooling system").size(), 1u);
     EXPECT_EQ(sk.Sankey_Kuehlen.prints("Surplus").size(), 1u);
+}
+
+// The texts of a diagram whose box, as the surface measures it, holds a pixel of a band.
+std::vector<std::string> texte_auf_baendern(const RecordingSurface& s, Rgb band) {
+    std::vector<std::string> r;
+    for (const auto& t : s.of_kind(Kind::Print)) {
+        const int x0 = static_cast<int>(std::lround(t.x1));
+        const int y0 = static_cast<int>(std::lround(t.y1));
+        const int x1 = x0 + static_cast<int>(s.TextWidth(t.text));
+        const int y1 = y0 + static_cast<int>(s.TextHeight(t.text));
+        bool auf = false;
+        for (int y = y0; y < y1 && !auf; ++y) {
+            for (int x = x0; x < x1 && !auf; ++x) {
+                auf = s.pixel(x, y) == band;
+            }
+        }
+        if (auf) {
+            r.push_back(t.text);
+        }
+    }
+    return r;
+}
+
+// The cooling diagram read as a reader of flow diagrams reads it, on the plane's surface and
+// on a taller one, for a weak, the usual and a strong cooling device: the loss rises from its
+// bend before its head begins, every band shows its whole width behind its tail notch, the
+// inlets add up to the collected band where they join it, the primary band is the loss and the
+// end energy together, and no text stands on a band.
+TEST(SankeyKuehlen, BandsJoinAndLeaveWithTheirWidthsAndTextsStandBesideThem) {
+    TempOrdner o;
+    struct Fall {
+        float effizienz;
+        int breite, hoehe;
+    };
+    const Fall faelle[] = {{2.5f, 436, 228}, {2.5f, 420, 300}, {1.0f, 436, 228},
+                           {5.0f, 436, 228}, {1.0f, 420, 300}, {8.0f, 420, 300}};
+    for (const char* sprache : {"d", "e"}) {
+        auto p = kuehlprojekt(o, sprache);
+        for (const Fall& f : faelle) {
+            SCOPED_TRACE(std::string(sprache) + " efficiency " + std::to_string(f.effizienz) +
+                         " on " + std::to_string(f.breite) + "x" + std::to_string(f.hoehe));
+            p->Klimaeffizienz = f.effizienz;
+            RecordingSurface heizen(f.breite, f.hoehe), kuehlen(f.breite, f.hoehe);
+            SankeyFlaechen sf{heizen, kuehlen};
+            SankeyKuehlen(*p, sf, einstellung(sprache));
+            const auto m = sankey_kuehlen_masse(*p, f.hoehe, kuehlen.TextHeight("X"));
+            ASSERT_GT(m.bC, 0);
+            ASSERT_GT(m.bL, 0);
+            const int yP = m.y0 + m.bC + m.bE - 1;
+            // The loss: its straight run between the bend and the head is not negative.
+            const double bogen = yP - m.bE - m.bL - 10;
+            EXPECT_GE(bogen - (m.bL / 2.0 + 25), 0);
+            EXPECT_NEAR(
+                oberste_zeile(kuehlen, static_cast<int>(m.xBogen) + 10 + m.bL / 2, KUEHLBAND), 25,
+                1);
+            // The primary band holds its whole width just before the bend, and it is the loss
+            // and the end energy together.
+            const int vor_bogen = static_cast<int>(m.xBogen) - 1;
+            EXPECT_EQ(pixel_in_spalte(kuehlen, vor_bogen, 0, f.hoehe, KUEHLBAND), m.bP);
+            EXPECT_NEAR(m.bP, m.bL + m.bE, 1);
+            // The inlets show their whole widths before their slanted pieces, and where they
+            // join the collected band it is exactly as wide as they are together; the end
+            // energy runs below it.
+            int einlaesse = 0;
+            for (int w : m.bTeil) {
+                einlaesse += w;
+            }
+            EXPECT_EQ(einlaesse, m.bC);
+            const int vor_schraege = static_cast<int>(m.xEinlassEnde) - 1;
+            EXPECT_EQ(pixel_in_spalte(kuehlen, vor_schraege, 0, f.hoehe, KUEHLBAND), m.bC + m.bE);
+            const int am_stoss = static_cast<int>(m.xSammel);
+            EXPECT_EQ(pixel_in_spalte(kuehlen, am_stoss, 0, f.hoehe, KUEHLBAND), m.bC + m.bE);
+            EXPECT_EQ(pixel_in_spalte(kuehlen, am_stoss, m.y0, m.y0 + m.bC - 1, KUEHLBAND), m.bC);
+            // Every text beside its band, inside the surface.
+            EXPECT_EQ(texte_auf_baendern(kuehlen, KUEHLBAND), std::vector<std::string>{});
+            for (const auto& t : kuehlen.of_kind(Kind::Print)) {
+                EXPECT_GE(t.y1, 0) << t.text;
+                EXPECT_LE(t.y1 + kuehlen.TextHeight(t.text), f.hoehe) << t.text;
+            }
+        }
+    }
 }
 
 } // namespace
