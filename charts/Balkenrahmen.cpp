@@ -5,6 +5,17 @@
 #include "project/Zahltext.h"
 #include "project/c_glob.h"
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+// The right end of the axis numbers, left of the ticks.
+constexpr double ZAHLEN_RECHTS = 25;
+
+} // namespace
+
 double balken_y(const Achsenmass& rahmen, double wert, double stufe, int n) {
     return (rahmen.achse_y - 1) - (wert / stufe) * rahmen.hoehe / n;
 }
@@ -27,12 +38,30 @@ void achsenrahmen(Surface& s, const Achsenmass& rahmen, double x_ende, int n, do
         s.CurrentY = 0;
         s.Print(einheit);
     }
+    // The plain conversion puts a blank before a number that is not negative, and the blank
+    // counts in the width: it may stand left of the surface, the digits may not. Where the
+    // digits of the widest number don't fit left of the ticks (five digits of cooling degree
+    // hours), all numbers lose the blank and take the smaller size that fits, so that the axis
+    // reads alike.
+    std::vector<std::string> zahlen;
+    double ziffern = 0;
+    for (int i = 0; i <= n; ++i) {
+        zahlen.push_back(zahl_str(i * stufe));
+        const std::string& z = zahlen.back();
+        ziffern = std::max(ziffern, s.TextWidth(z.substr(z.find_first_not_of(' '))));
+    }
+    const double groesse = s.FontSize;
+    if (ziffern > ZAHLEN_RECHTS) {
+        for (std::string& z : zahlen) {
+            z.erase(0, z.find_first_not_of(' '));
+        }
+        s.FontSize = groesse * ZAHLEN_RECHTS / ziffern;
+    }
     for (int i = 0; i <= n; ++i) {
         const double y = rahmen.achse_y - i * rahmen.hoehe / n;
-        // The plain conversion puts a blank before a number that is not negative, and the blank
-        // counts in the width.
-        rechtsbuendig(s, zahl_str(i * stufe), 25, y - 5);
+        rechtsbuendig(s, zahlen[static_cast<std::size_t>(i)], ZAHLEN_RECHTS, y - 5);
     }
+    s.FontSize = groesse;
 }
 
 void monatsnamen(Surface& s, const Projekt& p, double y) {
