@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -92,12 +93,21 @@ void transmission_zeichnen(Surface& s, const Projekt& p, const SankeyHeizenMasse
                   {p.qtr_Waende, "Wände (", "walls ("},
                   {p.qtr_Tuer, "Tür (", "door ("},
                   {p.qtr_Boden, "Boden (", "ground ("}};
+    std::vector<std::string> zeilen;
+    double breiteste = 0;
     for (const auto& zeile : liste) {
         if (zeile.anteil > 0) {
-            s.CurrentX = 356;
-            s.Print(tx.t(zeile.deutsch, zeile.englisch) +
-                    format_muster(zeile.anteil / p.qtr * 100, "0", tx.e.dezimal) + " %)");
+            zeilen.push_back(tx.t(zeile.deutsch, zeile.englisch) +
+                             format_muster(zeile.anteil / p.qtr * 100, "0", tx.e.dezimal) + " %)");
+            breiteste = std::max(breiteste, s.TextWidth(zeilen.back()));
         }
+    }
+    // At x 356 where the longest line ends inside the surface; otherwise as far left as it
+    // needs, but never onto the arrow heads, which end at x 350.
+    const double x = std::clamp(s.ScaleWidth() - 2 - breiteste, 351.0, 356.0);
+    for (const std::string& zeile : zeilen) {
+        s.CurrentX = x;
+        s.Print(zeile);
     }
 }
 
