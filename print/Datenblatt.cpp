@@ -9,6 +9,10 @@
 #include "print/Drucktext.h"
 #include "print/Seiten.h"
 
+#include <sstream>
+#include <string>
+#include <vector>
+
 namespace {
 
 // Row i of a list, or the empty text for a row the list does not have.
@@ -47,6 +51,23 @@ std::string ohne_raender(const std::string& text) {
     const std::size_t a = text.find_first_not_of(' ');
     const std::size_t b = text.find_last_not_of(' ');
     return a == std::string::npos ? std::string() : text.substr(a, b - a + 1);
+}
+
+// A line of a region's text in lines no wider than `breite` millimetres, broken only at its
+// blanks, so that "Nord- und" keeps its hyphen; a word wider than that stands alone.
+std::vector<std::string> an_blanks_umbrechen(const Drucker& d, const std::string& text,
+                                             double breite) {
+    std::vector<std::string> zeilen;
+    std::istringstream woerter(text);
+    std::string wort;
+    while (woerter >> wort) {
+        if (!zeilen.empty() && d.TextWidth(zeilen.back() + " " + wort) <= breite) {
+            zeilen.back() += " " + wort;
+        } else {
+            zeilen.push_back(wort);
+        }
+    }
+    return zeilen;
 }
 
 void geometrie(Druckseite& s) {
@@ -146,8 +167,12 @@ void klima(Druckseite& s) {
     if (region > 0) {
         // The region's text is German in both languages, as on the climate plane.
         const Klimaregion& r = klimaregion(region);
-        wertzeile(s, s.t("Klimaregion:", "Climatic region:"), ohne_raender(r.zeile1));
-        wertzeile(s, "", ohne_raender(r.zeile2));
+        drucken_bei(s.d, 30, s.y, s.t("Klimaregion:", "Climatic region:"));
+        for (const char* zeile : {r.zeile1, r.zeile2}) {
+            for (const std::string& teil : an_blanks_umbrechen(s.d, ohne_raender(zeile), 55)) {
+                wertzeile(s, "", teil);
+            }
+        }
         return;
     }
     const Stationsliste& welt = s.e.klima.listen.Welt;
