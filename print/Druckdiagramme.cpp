@@ -10,6 +10,7 @@
 #include "project/c_glob.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace {
 
@@ -165,38 +166,36 @@ void Diagramm_Stunden(Drucker& d, const Projekt& p) {
 void Diagramm_Kuehlen(Drucker& d, const Projekt& p) {
     diagrammschrift(d);
     d.Box(25, 164, 133, 206, BLACK);
-    double M = 1;
+    double M = 1, K = 1;
     for (int m = 1; m <= MONATE; ++m) {
         M = std::max(M, static_cast<double>(p.Monat[m].Stunden_heiss) / p.Monat[m].Tage);
+        K = std::max(K, p.Monat[m].Kuehlbedarf / static_cast<double>(p.f_nutz));
     }
     const Druckachse a{35, 200, 170, 131, 4, stufe_stunden_pro_tag(M)};
     druck_achsen(d, a, sprachtext(p.Sprache, "Std./Tag", "hours/day"), 28);
     druck_monatsnamen(d, p.Sprache, a.x, a.unten + 1);
+    // The cooling demand stands beside the hours in the same box, on its own scale of as many
+    // steps, whose numbers and unit stand right of the box.
+    const Druckachse k{35, 200, 170, 131, 4, stufe_monatsbilanz(K)};
+    for (int i = 0; i <= k.n; ++i) {
+        const double y = k.unten - i * (k.unten - k.oben) / k.n;
+        d.Line(k.x_ende, y, k.x_ende + 1, y, BLACK);
+        drucken_bei(d, 134.5, y - 1.5, zahl_str(i * k.stufe));
+    }
+    drucken_bei(d, 134.5, k.oben - 5, monatseinheit(p));
     for (int m = 1; m <= MONATE; ++m) {
-        const double wert = static_cast<double>(p.Monat[m].Stunden_heiss) / p.Monat[m].Tage;
-        if (wert > 0) {
-            const double x = monat_x(a.x, m);
-            druck_balken(d, a, x, x + 7, 0, wert, DRUCK_PRIMAER);
+        const double x = monat_x(a.x, m);
+        const double stunden = static_cast<double>(p.Monat[m].Stunden_heiss) / p.Monat[m].Tage;
+        const double bedarf = p.Monat[m].Kuehlbedarf / static_cast<double>(p.f_nutz);
+        if (stunden > 0) {
+            druck_balken(d, a, x + 0.5, x + 3.5, 0, stunden, DRUCK_PRIMAER);
+        }
+        if (bedarf > 0) {
+            druck_balken(d, k, x + 3.5, x + 6.5, 0, bedarf, DRUCK_INTERN);
         }
     }
-
-    d.Box(25, 212, 133, 254, BLACK);
-    double K = 1;
-    for (int m = 1; m <= MONATE; ++m) {
-        K = std::max(K, p.Monat[m].Kuehlbedarf / static_cast<double>(p.f_nutz));
-    }
-    const Druckachse k{35, 248, 218, 131, 5, stufe_monatsbilanz(K)};
-    druck_achsen(d, k, monatseinheit(p), 28);
-    druck_monatsnamen(d, p.Sprache, k.x, k.unten + 1);
-    for (int m = 1; m <= MONATE; ++m) {
-        const double wert = p.Monat[m].Kuehlbedarf / static_cast<double>(p.f_nutz);
-        if (wert > 0) {
-            const double x = monat_x(k.x, m);
-            druck_balken(d, k, x, x + 7, 0, wert, DRUCK_INTERN);
-        }
-    }
-    legende(d, 140, 180, DRUCK_PRIMAER, sprachtext(p.Sprache, "Überwärmung", "Overheating"));
-    legende(d, 140, 228, DRUCK_INTERN, sprachtext(p.Sprache, "Kühlbedarf", "Cooling demand"));
+    legende(d, 30, 210, DRUCK_PRIMAER, sprachtext(p.Sprache, "Überwärmung", "Overheating"));
+    legende(d, 80, 210, DRUCK_INTERN, sprachtext(p.Sprache, "Kühlbedarf", "Cooling demand"));
 }
 
 void Diagramm_Fenster(Drucker& d, const Projekt& p) {
@@ -237,6 +236,16 @@ void Diagramm_Fenster(Drucker& d, const Projekt& p) {
 
 namespace {
 
+// The column of the legend right of the energy diagrams: at x 140, or as far left as its
+// longest text needs to end at the rule at x 175.
+double legendenspalte(const Drucker& d, std::initializer_list<std::string> texte) {
+    double breiteste = 0;
+    for (const std::string& t : texte) {
+        breiteste = std::max(breiteste, d.TextWidth(t));
+    }
+    return std::min(140.0, 175 - 7 - breiteste);
+}
+
 // The frame of the two energy diagrams: box, axes 20 mm high of n steps of `stufe`, month names.
 Druckachse energierahmen(Drucker& d, const Projekt& p, int n, double stufe) {
     diagrammschrift(d);
@@ -266,12 +275,15 @@ void Diagramm_Heizenergie(Drucker& d, const Projekt& p) {
         druck_balken(d, a, x + 3.5, x + 6.5, 0, P, DRUCK_PRIMAER);
         druck_balken(d, a, x + 3.5, x + 6.5, P, P + Q, DRUCK_PRIMAER_STROM);
     }
-    legende(d, 140, 214, DRUCK_HEIZEN,
-            sprachtext(p.Sprache, "Endenergiebedarf", "End energy demand"));
-    legende(d, 140, 219, DRUCK_STROM, sprachtext(p.Sprache, "Strom", "electricity"));
-    legende(d, 140, 226, DRUCK_PRIMAER,
-            sprachtext(p.Sprache, "Primärenergiebedarf", "Primary energy demand"));
-    legende(d, 140, 231, DRUCK_PRIMAER_STROM, sprachtext(p.Sprache, "Strom", "electricity"));
+    const std::string ende = sprachtext(p.Sprache, "Endenergiebedarf", "End energy demand");
+    const std::string strom = sprachtext(p.Sprache, "Strom", "electricity");
+    const std::string primaer =
+        sprachtext(p.Sprache, "Primärenergiebedarf", "Primary energy demand");
+    const double x = legendenspalte(d, {ende, strom, primaer});
+    legende(d, x, 214, DRUCK_HEIZEN, ende);
+    legende(d, x, 219, DRUCK_STROM, strom);
+    legende(d, x, 226, DRUCK_PRIMAER, primaer);
+    legende(d, x, 231, DRUCK_PRIMAER_STROM, strom);
 }
 
 void Diagramm_Kuehlenergie(Drucker& d, const Projekt& p) {
@@ -291,8 +303,10 @@ void Diagramm_Kuehlenergie(Drucker& d, const Projekt& p) {
         druck_balken(d, a, x + 0.5, x + 3.5, 0, end, DRUCK_STROM);
         druck_balken(d, a, x + 3.5, x + 6.5, 0, end * PRIMAERFAKTOR_STROM, DRUCK_PRIMAER_STROM);
     }
-    legende(d, 140, 214, DRUCK_STROM,
-            sprachtext(p.Sprache, "Endenergiebedarf", "End energy demand"));
-    legende(d, 140, 219, DRUCK_PRIMAER_STROM,
-            sprachtext(p.Sprache, "Primärenergiebedarf", "Primary energy demand"));
+    const std::string ende = sprachtext(p.Sprache, "Endenergiebedarf", "End energy demand");
+    const std::string primaer =
+        sprachtext(p.Sprache, "Primärenergiebedarf", "Primary energy demand");
+    const double x = legendenspalte(d, {ende, primaer});
+    legende(d, x, 214, DRUCK_STROM, ende);
+    legende(d, x, 219, DRUCK_PRIMAER_STROM, primaer);
 }
