@@ -43,6 +43,12 @@ const std::vector<Layoutfall>& layoutfaelle() {
              p.intg = 60;
              p.Tueber = 22;
          }},
+        // The region with the longest line of text, on data sheet 1.
+        {"klimaregion_9",
+         [](Projekt& p) {
+             p.Klimaauswahl = 1;
+             p.Klimadatei = p.Regionsdatei[9];
+         }},
     };
     return faelle;
 }

@@ -15,7 +15,7 @@ struct Layoutfall {
 };
 
 // The new project, a heated attic with each ridge, all walls adjoining, a heat pump, an extreme
-// building and a large cooling load.
+// building, a large cooling load and the longest climate region.
 const std::vector<Layoutfall>& layoutfaelle();
 
 // A placed text: its box and the text itself, in the units of its drawing.
