@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -89,9 +90,15 @@ void fernwaerme(Surface& s, double v) {
     s.Line(40, 28 + a + 2, 40, 28 + a + 2 + strahl, GRAU);
 }
 
+// Two lines centred over the picture; a line as wide as the picture or wider ("Nah-/Fernwärme:")
+// begins at its left edge instead of left of it.
 void titel(Surface& s, const std::string& zeile1, const std::string& zeile2) {
-    zentriert(s, zeile1, 40, 10);
-    zentriert(s, zeile2, 40, 30);
+    for (const auto& [text, y] : {std::pair{zeile1, 10}, std::pair{zeile2, 30}}) {
+        const double breite = s.TextWidth(text);
+        s.CurrentX = std::max(0.0, std::min(40 - breite / 2, s.ScaleWidth() - breite));
+        s.CurrentY = y;
+        s.Print(text);
+    }
 }
 
 } // namespace

@@ -13,7 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -176,6 +178,21 @@ TEST(Energietraeger, TheOilLevelIsCappedAndElectricityLeavesTheSecondPictureBlan
     EXPECT_EQ(s3.log()[0].kind, Kind::Cls);
     EXPECT_EQ(s2.prints("Strom:").size(), 1u);
     EXPECT_EQ(boxen(s2, Rgb{255, 255, 96}).size(), 0u);
+}
+
+TEST(Energietraeger, ACarrierNameWiderThanThePictureBeginsAtItsLeftEdge) {
+    TempOrdner o;
+    auto p = diagrammprojekt(o, "d");
+    p->Energie.Traegername = "Nah-/Fernwärme";
+    p->Energie.Traegername_e = "district heat";
+    for (const auto& [sprache, titel] :
+         {std::pair{"d", "Nah-/Fernwärme:"}, std::pair{"e", "district heat:"}}) {
+        RecordingSurface s2(80, 52), s3(80, 52);
+        Energietraeger_zeichnen(*p, s2, s3, einstellung(sprache));
+        const auto t = s2.prints(titel);
+        ASSERT_EQ(t.size(), 1u);
+        EXPECT_EQ(t[0].x1, std::max(0.0, 80 - s2.TextWidth(titel))) << titel;
+    }
 }
 
 TEST(Energietraeger, WoodPileHasRowsByTheSizeValue) {

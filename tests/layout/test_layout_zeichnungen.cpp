@@ -12,11 +12,13 @@
 #include "print/RecordingPrinter.h"
 #include "tests/charts/Diagrammhilfe.h"
 #include "tests/layout/Layoutfaelle.h"
+#include "tests/regression/fallbibliothek.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <sstream>
 
 namespace {
@@ -105,9 +107,24 @@ struct Lauf {
     double massstab;
 };
 
+// The layout cases and the buildings of the case library, whose names take a prefix.
+const std::vector<Layoutfall>& alle_faelle() {
+    static const std::vector<Layoutfall> faelle = [] {
+        std::vector<Layoutfall> r = layoutfaelle();
+        static std::vector<std::string> namen;
+        namen.reserve(std::size(FAELLE));
+        for (const Fall& f : FAELLE) {
+            namen.push_back(std::string("bibliothek_") + f.name);
+            r.push_back({namen.back().c_str(), f.aendern});
+        }
+        return r;
+    }();
+    return faelle;
+}
+
 std::vector<Lauf> laeufe() {
     std::vector<Lauf> r;
-    for (const Layoutfall& f : layoutfaelle()) {
+    for (const Layoutfall& f : alle_faelle()) {
         for (const char* s : {"d", "e"}) {
             r.push_back({&f, s, 1.0});
         }
