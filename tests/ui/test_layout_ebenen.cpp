@@ -230,6 +230,51 @@ private slots:
         QVERIFY2(fehler.isEmpty(),
                  qPrintable(QStringLiteral("%1 layout faults").arg(fehler.size())));
     }
+
+    // Every value of the insulation and building planes shows its unit in its own frame, in
+    // both languages.
+    void einheiten() {
+        struct Einheiten {
+            int ebene;
+            const char* rahmen;
+            QStringList texte;
+        };
+        const Einheiten tabelle[] = {
+            {Hauptfenster::Daemmung, "Frame3", {"W/(m²K)"}},
+            {Hauptfenster::Daemmung, "Frame1", {"m²", "W/(m²K)"}},
+            {Hauptfenster::Daemmung, "Frame2", {"W/(m²K)"}},
+            {Hauptfenster::Gebaeude, "Frame3", {"°C"}},
+            {Hauptfenster::Gebaeude, "Frame7", {"°C"}},
+            {Hauptfenster::Gebaeude, "Frame2", {"kWh/(m² a)", "W/m²"}},
+            {Hauptfenster::Gebaeude, "Frame4", {"1/h", "%"}},
+            {Hauptfenster::Gebaeude, "Frame9", {"kWh"}},
+            {Hauptfenster::Gebaeude, "Frame8", {"Wh/(m³ K)", "kWh/K"}},
+        };
+        for (const char* sprache : {"d", "e"}) {
+            SkriptDialogs dialoge;
+            auto programm = programm_starten(&dialoge, *klima, sprache);
+            Hauptfenster& haupt = *programm->haupt;
+            for (const Einheiten& z : tabelle) {
+                haupt.eingabe_zeigen(z.ebene);
+                auto* rahmen =
+                    haupt.eingabe[static_cast<std::size_t>(z.ebene)]->findChild<QGroupBox*>(
+                        QString::fromUtf8(z.rahmen));
+                QVERIFY2(rahmen != nullptr, z.rahmen);
+                QStringList gezeigt;
+                for (const QLabel* l : rahmen->findChildren<QLabel*>()) {
+                    if (l->isVisibleTo(rahmen)) {
+                        gezeigt << l->text();
+                    }
+                }
+                for (const QString& t : z.texte) {
+                    QVERIFY2(gezeigt.contains(t), qPrintable(QStringLiteral("%1 %2 of plane %3: %4")
+                                                                 .arg(sprache, z.rahmen)
+                                                                 .arg(z.ebene)
+                                                                 .arg(t)));
+                }
+            }
+        }
+    }
 };
 
 QTEST_MAIN(TestLayoutEbenen)
