@@ -145,8 +145,8 @@ std::vector<Bild> Bildbogen::sprache(const std::string& sprache, const std::stri
         programm.zoom->close();
     }
 
-    // The climate plane in its three scopes, the project's own last, so that the other planes
-    // above show the project as it was opened.
+    // The climate plane in its three scopes, after the other planes, and then the project's own
+    // scope again, so that the printed pages show the project as it was opened.
     const KlimawahlFelder& k = programm.klimawahl_felder;
     const int eigener = programm.p.Klimaauswahl >= 1 && programm.p.Klimaauswahl <= 3
                             ? programm.p.Klimaauswahl - 1
