@@ -79,6 +79,13 @@ void klima_zeigen(E_Klima& e, Projekt& p) {
         }
     }
     e.Picture1 = klimakarte(region);
+    // The region list says what the map shows, also while another scope is in front: a station
+    // of no region stands by its name with no row chosen, as the Germany option shows it.
+    e.Klimaregionwahl.waehlen(region - 1);
+    const int w = region > 0 ? -1 : e.listen.Welt.suchen(p.Klimadatei);
+    if (w >= 0) {
+        e.Klimaregionwahl.Text = e.listen.Welt.Stationsname[static_cast<std::size_t>(w)];
+    }
     p.Klimainfo.Klimaname =
         p.Klimaauswahl == 1 ? "Region " + e.Klimaregionwahl.Text : e.Klimaregionwahl2.Text;
 }

@@ -46,7 +46,8 @@ struct E_Klima {
 // highlight and a random source seeded from the system.
 void E_Klima_erstellen(E_Klima& e, const Projekt& p);
 // After a project was opened or begun, whose station was read without the plane: the German map
-// highlights the station's region (none for another station), and the climate information plane
+// highlights the station's region (none for another station), the region list chooses the same
+// region (none, with the station's name, for another station), and the climate information plane
 // names the station by the list of its scope as the plane shows it now.
 void klima_zeigen(E_Klima& e, Projekt& p);
 

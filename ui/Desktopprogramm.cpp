@@ -15,6 +15,7 @@
 #include "ui/Tastatur.h"
 #include "ui/Uebersetzen.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QMenuBar>
 #include <QPushButton>
@@ -423,6 +424,14 @@ void Desktopprogramm::nach_aktion() {
     }
     if (zoom) {
         zoom->Temperaturen->gueltig_setzen(gueltig);
+    }
+    // The documents of the results would print new inputs beside old results: they wait, as
+    // the result planes do, for a calculation that succeeds.
+    for (const char* name :
+         {"mnuFileDrucken", "mnuBerechnungsergebnisseExportieren", "mnuTemperaturExport"}) {
+        if (auto* a = haupt->findChild<QAction*>(QString::fromUtf8(name))) {
+            a->setEnabled(gueltig);
+        }
     }
     if (!gueltig) {
         return;

@@ -36,15 +36,17 @@ void daemmung_bauen(QWidget& e, E_Daemmung& d, Ebenenbau& bau) {
     QGroupBox* oben = rahmen(&e, nullptr, "", 4, 164, 344, 86);
     QLabel* liste2 = text(oben, "liste2", "Obere Geschoßdecke", 8, 2, 200);
     text(oben, "Label18", "gegen . . .", 8, 20);
-    QComboBox* ogd = liste(oben, 70, 18, 200);
-    QComboBox* ogd_dach = liste(oben, 70, 18, 200);
+    // The lists reach to the frame's right edge: their longest rows ("Unbeheizter Keller (mit
+    // Perimeterdämmung)") need it.
+    QComboBox* ogd = liste(oben, 70, 18, 266);
+    QComboBox* ogd_dach = liste(oben, 70, 18, 266);
     text(oben, "Label19", "U-Wert:", 8, 44);
     const auto kd = reihe(oben, 70, 44, U);
     QCheckBox* hdach = check(oben, "cbk_hDach", "Hinterlüftetes Dach", 8, 64, 200);
 
     QGroupBox* frame2 = rahmen(&e, "Frame2", "Untere Geschoßdecke", 4, 252, 344, 62);
     text(frame2, "Label15", "gegen . . .", 8, 20);
-    QComboBox* ugd = liste(frame2, 70, 18, 200);
+    QComboBox* ugd = liste(frame2, 70, 18, 266);
     text(frame2, "Label16", "U-Wert:", 8, 42);
     const auto kk = reihe(frame2, 70, 42, U);
 

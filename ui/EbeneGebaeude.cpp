@@ -31,18 +31,22 @@ void gebaeude_bauen(QWidget& e, E_Gebaeude& g, Ebenenbau& bau) {
     QScrollBar* troom = balken(frame3, Qt::Horizontal, 8, 20, 84, 16);
     QLabel* troom_anz = anzeige(frame3, 98, 19, 44);
     text(frame3, nullptr, "°C", 146, 20);
-    QGroupBox* frame7 = rahmen(&e, "Frame7", "Überwärmungsgrenze", 178, 4, 170, 92);
+    QGroupBox* frame7 = rahmen(&e, "Frame7", "Überwärmungsgrenze", 178, 4, 170, 110);
     text(frame7, "Label19", "Überwärmung bei einer Raumtemperatur größer als . . .", 8, 18, 156,
          44);
     QScrollBar* tueber = balken(frame7, Qt::Horizontal, 8, 66, 84, 16);
     QLabel* tueber_anz = anzeige(frame7, 98, 65, 44);
     text(frame7, nullptr, "°C", 146, 66);
-    QGroupBox* frame2 = rahmen(&e, "Frame2", "Interne Gewinne", 4, 52, 170, 44);
-    QScrollBar* intg = balken(frame2, Qt::Horizontal, 8, 20, 64, 16);
-    QLabel* intg_anz = anzeige(frame2, 76, 19, 40);
-    QLabel* intg_anz2 = anzeige(frame2, 120, 19, 42);
+    // The gains as a yearly sum and as a mean power, each with its unit, in a row under the
+    // scroll field: beside it there is no room for both.
+    QGroupBox* frame2 = rahmen(&e, "Frame2", "Interne Gewinne", 4, 52, 170, 62);
+    QScrollBar* intg = balken(frame2, Qt::Horizontal, 8, 18, 154, 16);
+    QLabel* intg_anz = anzeige(frame2, 8, 37, 34);
+    text(frame2, nullptr, "kWh/(m² a)", 44, 38);
+    QLabel* intg_anz2 = anzeige(frame2, 102, 37, 30);
+    text(frame2, nullptr, "W/m²", 134, 38);
 
-    QGroupBox* frame4 = rahmen(&e, "Frame4", "Lüftung", 4, 100, 344, 82);
+    QGroupBox* frame4 = rahmen(&e, "Frame4", "Lüftung", 4, 118, 344, 82);
     text(frame4, "Label5", "Freie Lüftung:", 8, 18);
     text(frame4, "Label1", "Mechanische Lüftung:", 8, 38);
     text(frame4, "Label4", "Wärmerückgewinnung:", 8, 58);
@@ -56,18 +60,18 @@ void gebaeude_bauen(QWidget& e, E_Gebaeude& g, Ebenenbau& bau) {
     text(frame4, nullptr, "1/h", 310, 38);
     text(frame4, nullptr, "%", 310, 58);
 
-    QGroupBox* frame6 = rahmen(&e, "Frame6", "Art der Außenwände", 4, 186, 170, 48);
+    QGroupBox* frame6 = rahmen(&e, "Frame6", "Art der Außenwände", 4, 204, 170, 48);
     QComboBox* aussen = liste(frame6, 8, 18, 154);
-    QGroupBox* frame5 = rahmen(&e, "Frame5", "Art der Innenwände", 178, 186, 170, 48);
+    QGroupBox* frame5 = rahmen(&e, "Frame5", "Art der Innenwände", 178, 204, 170, 48);
     QComboBox* innen = liste(frame5, 8, 18, 154);
 
-    QGroupBox* frame1 = rahmen(&e, "Frame1", "Wand gegen beheizt", 4, 238, 170, 62);
+    QGroupBox* frame1 = rahmen(&e, "Frame1", "Wand gegen beheizt", 4, 256, 170, 62);
     QCheckBox* awn = check(frame1, "awn_cb", "N", 66, 18, 36);
     QCheckBox* aww = check(frame1, "aww_cb", "W", 20, 30, 36);
     QCheckBox* awo = check(frame1, "awo_cb", "O", 112, 30, 36);
     QCheckBox* aws = check(frame1, "aws_cb", "S", 66, 42, 36);
 
-    QGroupBox* frame9 = rahmen(&e, "Frame9", "Effizienzfaktor Klimaanlage", 4, 304, 170, 70);
+    QGroupBox* frame9 = rahmen(&e, "Frame9", "Effizienzfaktor Klimaanlage", 4, 322, 170, 70);
     text(frame9, "Label9", "Kühl", 8, 18);
     text(frame9, "Label10", "Strom", 8, 34);
     // The unit of both parts of the fraction.
@@ -77,7 +81,7 @@ void gebaeude_bauen(QWidget& e, E_Gebaeude& g, Ebenenbau& bau) {
     QLabel* klima_anz = anzeige(frame9, 114, 49, 48);
 
     // The heat storage: two stacked weights over a base line at 1500 twips of the frame.
-    QGroupBox* traeg = rahmen(&e, "Traegheit", "Wärmespeicherung", 178, 238, 170, 136);
+    QGroupBox* traeg = rahmen(&e, "Traegheit", "Wärmespeicherung", 178, 256, 170, 136);
     QFrame* gewicht1 = gewicht(traeg, 10, QColor(64, 64, 64));
     QFrame* gewicht2 = gewicht(traeg, 18, QColor(128, 128, 128));
     QGroupBox* frame8 = rahmen(traeg, "Frame8", "Wirksame ", 62, 18, 102, 110);

@@ -3,6 +3,7 @@
 #include "project/c_glob.h"
 #include "ui/Bau.h"
 #include "ui/Ebenen.h"
+#include "ui/Stationskarte.h"
 
 using namespace bau;
 
@@ -92,7 +93,7 @@ KlimaFelder klima_bauen(QWidget& e) {
 
 void klima_ausfuellen(const KlimaFelder& f, const Projekt& p, char dez) {
     const KlimainfoTexte t = klimainfo_texte(p, dez);
-    f.anz_klimaregion->setText(qt(t.anz_klimaregion));
+    name_setzen(*f.anz_klimaregion, qt(t.anz_klimaregion));
     f.anz_MaxJahrTemp->setText(qt(t.anz_MaxJahrTemp));
     f.anz_MaxMonatTemp->setText(qt(t.anz_MaxMonatTemp));
     f.anz_MaxMonatName->setText(qt(t.anz_MaxMonatName));

@@ -107,7 +107,14 @@ QLabel* klimawert(QWidget* rahmen, const char* name, const char* text, int zeile
     return wert;
 }
 
-void zeilen_setzen(QComboBox& cb, const Klimaliste& l) {
+Namensliste* namensliste(QWidget* eltern, const char* name, int x, int y, int w) {
+    auto* cb = new Namensliste(eltern);
+    cb->setObjectName(QString::fromUtf8(name));
+    cb->setGeometry(x, y, w, 22);
+    return cb;
+}
+
+void zeilen_setzen(Namensliste& cb, const Klimaliste& l) {
     if (cb.count() != static_cast<int>(l.Eintraege.size())) {
         cb.clear();
         for (const std::string& z : l.Eintraege) {
@@ -119,6 +126,7 @@ void zeilen_setzen(QComboBox& cb, const Klimaliste& l) {
     if (cb.currentIndex() != l.ListIndex) {
         cb.setCurrentIndex(l.ListIndex);
     }
+    cb.anpassen();
 }
 
 } // namespace
@@ -148,16 +156,16 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
     f.Timer2 = schwebe.Timer2;
     QLabel* region = text(&e, nullptr, "Klimaregion", 8, 348);
     region->setProperty("zeile", 4);
-    f.Klimaregionwahl = liste(&e, 8, 364, 336);
-    f.Klimaregionwahl->setObjectName(QStringLiteral("Klimaregionwahl"));
+    Namensliste* regionen = namensliste(&e, "Klimaregionwahl", 8, 364, 336);
+    f.Klimaregionwahl = regionen;
     QLabel* plz_text = text(&e, nullptr, "Postleitzahl", 8, 396);
     plz_text->setProperty("zeile", 5);
     f.plz = new QLineEdit(&e);
     f.plz->setObjectName(QStringLiteral("plz"));
     f.plz->setGeometry(100, 394, 60, 20);
     f.PLZsuchen = knopf(&e, "PLZsuchen", "OK", 166, 393, 40, 22);
-    f.Klimaregionwahl2 = liste(&e, 8, 30, 336);
-    f.Klimaregionwahl2->setObjectName(QStringLiteral("Klimaregionwahl2"));
+    Namensliste* stationen = namensliste(&e, "Klimaregionwahl2", 8, 30, 336);
+    f.Klimaregionwahl2 = stationen;
 
     f.Picture2 = new Stationskarte(&e, grafiken + "/europa.bmp", EUROPA_BREITE, EUROPA_HOEHE);
     f.Picture2->setObjectName(QStringLiteral("Picture2"));
@@ -315,7 +323,7 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
             // wetter_laden names the station on the climate information plane after the
             // recalculation, so after that plane's own refresh.
             if (klimaname != nullptr) {
-                klimaname->setText(QString::fromStdString(p.Klimainfo.Klimaname));
+                name_setzen(*klimaname, QString::fromStdString(p.Klimainfo.Klimaname));
             }
             // The year values of the station read last; none before the first read.
             const Klimakennwerte& info = p.Klimainfo;
@@ -330,11 +338,11 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
             w.anz_MaxMonatTemp->setText(wert(info.MaxMonatTemp));
             {
                 const QSignalBlocker still(w.Klimaregionwahl);
-                zeilen_setzen(*w.Klimaregionwahl, k.Klimaregionwahl);
+                zeilen_setzen(*regionen, k.Klimaregionwahl);
             }
             {
                 const QSignalBlocker still(w.Klimaregionwahl2);
-                zeilen_setzen(*w.Klimaregionwahl2, k.Klimaregionwahl2);
+                zeilen_setzen(*stationen, k.Klimaregionwahl2);
             }
             if (w.plz->text().toStdString() != k.plz) {
                 w.plz->setText(QString::fromStdString(k.plz));

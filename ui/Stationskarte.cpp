@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Stationskarte.h"
 
+#include <QAbstractItemView>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -115,4 +120,70 @@ void Schwebetext::bewegt(int x, int y, const std::string& text) const {
     }
     label->setText(QString::fromStdString(text));
     label->adjustSize();
+    // A label cut by the map's edge reads as a different name ("Westde"): it stays whole.
+    const QSize karte = label->parentWidget()->size();
+    QPoint ort = label->pos();
+    if (ort.y() + label->height() > karte.height()) {
+        ort.setY(y - 4 - label->height());
+    }
+    ort.setX(std::max(0, std::min(ort.x(), karte.width() - label->width())));
+    ort.setY(std::max(0, std::min(ort.y(), karte.height() - label->height())));
+    label->move(ort);
+}
+
+QString Namensliste::ganzer_text() const {
+    return currentIndex() < 0 ? placeholderText() : currentText();
+}
+
+int Namensliste::textbreite() const {
+    QStyleOptionComboBox opt;
+    initStyleOption(&opt);
+    const QRect feld =
+        style()->subControlRect(QStyle::CC_ComboBox, &opt, QStyle::SC_ComboBoxEditField, this);
+    // The style draws the text a pixel or two inside the field.
+    return std::max(0, feld.width() - 4);
+}
+
+QString Namensliste::gezeigter_text() const {
+    return fontMetrics().elidedText(ganzer_text(), Qt::ElideRight, textbreite());
+}
+
+void Namensliste::anpassen() {
+    const QString ganz = ganzer_text();
+    setToolTip(gezeigter_text() != ganz ? ganz : QString());
+    QAbstractItemView* liste = view();
+    int breit = 0;
+    for (int i = 0; i < count(); ++i) {
+        breit = std::max(breit, liste->fontMetrics().horizontalAdvance(itemText(i)));
+    }
+    // Beside the text: the row's margins, the list's frame and its scroll bar.
+    constexpr int RAND = 16;
+    liste->setMinimumWidth(breit + RAND + 2 * liste->frameWidth() +
+                           liste->verticalScrollBar()->sizeHint().width());
+}
+
+void Namensliste::paintEvent(QPaintEvent*) {
+    // As the combo box paints itself, with the name cut to the field.
+    QStylePainter maler(this);
+    maler.setPen(palette().color(QPalette::Text));
+    QStyleOptionComboBox opt;
+    initStyleOption(&opt);
+    maler.drawComplexControl(QStyle::CC_ComboBox, opt);
+    if (currentIndex() < 0) {
+        opt.palette.setBrush(QPalette::ButtonText, opt.palette.placeholderText());
+    }
+    opt.currentText = gezeigter_text();
+    maler.drawControl(QStyle::CE_ComboBoxLabel, opt);
+}
+
+void Namensliste::resizeEvent(QResizeEvent* e) {
+    QComboBox::resizeEvent(e);
+    anpassen();
+}
+
+void name_setzen(QLabel& label, const QString& name) {
+    const QString gezeigt =
+        label.fontMetrics().elidedText(name, Qt::ElideRight, label.contentsRect().width());
+    label.setText(gezeigt);
+    label.setToolTip(gezeigt != name ? name : QString());
 }

@@ -3,6 +3,7 @@
 
 #include "climate/stationskarten.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QTimer>
 #include <QWidget>
@@ -48,6 +49,32 @@ struct Schwebetext {
     // The label and its timers on `karte`, the label named `name`.
     static Schwebetext bauen(QWidget* karte, const char* name);
     // The pointer at (x, y): the label goes 20 pixels below it, hidden, and Timer1 restarts;
-    // with an empty text Timer1 stops and nothing will show.
+    // with an empty text Timer1 stops and nothing will show. A label that would stand out of
+    // its map moves in: left of the right edge, and above the pointer at the foot.
     void bewegt(int x, int y, const std::string& text) const;
 };
+
+// A drop-down list of station names: a name longer than the field is shown cut with "…", and
+// the field's tooltip holds it whole; the open list is as wide as its longest name.
+class Namensliste : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    // The name of the field: the chosen row, or the placeholder when none is chosen.
+    QString ganzer_text() const;
+    // That name as the field shows it, cut to its width.
+    QString gezeigter_text() const;
+    // The tooltip and the open list's width after the rows or the name changed.
+    void anpassen();
+
+protected:
+    void paintEvent(QPaintEvent* e) override;
+    void resizeEvent(QResizeEvent* e) override;
+
+private:
+    int textbreite() const;
+};
+
+// A name in a label of fixed width: cut with "…" where it is longer, the whole name then in the
+// label's tooltip.
+void name_setzen(QLabel& label, const QString& name);

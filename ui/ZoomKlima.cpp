@@ -24,7 +24,8 @@ ZoomKlimaFenster::ZoomKlimaFenster(E_Klima& e, const std::string& welt, QWidget*
     Picture1->setObjectName(QStringLiteral("Picture1"));
     Picture1->move(8, 8);
     const int unten = Picture1->y() + Picture1->height() + 8;
-    Klimaregionwahl2 = bau::liste(this, 8, unten, 336);
+    Klimaregionwahl2 = new Namensliste(this);
+    Klimaregionwahl2->setGeometry(8, unten, 336, 22);
     Klimaregionwahl2->setObjectName(QStringLiteral("Klimaregionwahl2"));
     ueberschrift = bau::text(this, nullptr, "Klimastationen - Welt", 352, unten + 3);
     ueberschrift->setProperty("zeile", 10);
@@ -72,5 +73,6 @@ void ZoomKlimaFenster::zeigen() {
     const QSignalBlocker still(Klimaregionwahl2);
     Klimaregionwahl2->setPlaceholderText(QString::fromStdString(l.Text));
     Klimaregionwahl2->setCurrentIndex(l.ListIndex);
+    Klimaregionwahl2->anpassen();
     Picture1->punkte_setzen(kartenpunkte(e_.listen.Welt, l.ListIndex, ZOOM_FAKTOR));
 }

@@ -25,7 +25,7 @@ public:
     void oeffnen();
 
     Stationskarte* Picture1 = nullptr;
-    QComboBox* Klimaregionwahl2 = nullptr;
+    Namensliste* Klimaregionwahl2 = nullptr;
     QLabel* ueberschrift = nullptr; // caption of the list, also the window's title
     QPushButton *Command1 = nullptr, *Command2 = nullptr;
     Schwebetext schwebe; // MausRegion with its timers

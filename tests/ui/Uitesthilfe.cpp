@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/ui/Uitesthilfe.h"
 
+#include "tools/bildbogen/Bildablage.h"
 #include "ui/Desktopprogramm.h"
 
-#include <QPixmap>
-#include <QWidget>
 #include <filesystem>
 
 std::unique_ptr<TempOrdner> klima_kopie() {
@@ -17,7 +16,7 @@ std::unique_ptr<TempOrdner> klima_kopie() {
 void bild_speichern(QWidget& fenster, const QString& name) {
     const QString ordner = qEnvironmentVariable("VELMARIS_BILDER");
     if (!ordner.isEmpty()) {
-        fenster.grab().save(ordner + QLatin1Char('/') + name + QStringLiteral(".png"));
+        bild_ablegen(fenster, ordner, name);
     }
 }
 

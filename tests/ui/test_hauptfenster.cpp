@@ -490,6 +490,12 @@ private slots:
         QVERIFY(f_gd->text().isEmpty());
         QVERIFY(!f_gd->isEnabled());
         QVERIFY(!programm->geometrie_diagramme.AV_Picture->gueltig());
+        // No report, temperature table or printout of old results beside the new inputs.
+        const char* const dokumente[] = {"mnuFileDrucken", "mnuBerechnungsergebnisseExportieren",
+                                         "mnuTemperaturExport"};
+        for (const char* name : dokumente) {
+            QVERIFY2(!programm->haupt->findChild<QAction*>(name)->isEnabled(), name);
+        }
         // Still editable: the field moved, and a lower building calculates again.
         QVERIFY(finden<QScrollBar>(geo, "h_sb")->isEnabled());
         QCOMPARE(programm->p.h, 50.0f);
@@ -498,6 +504,9 @@ private slots:
         QCOMPARE(f_gd->text(), QStringLiteral(" 4,0"));
         QVERIFY(f_gd->isEnabled());
         QVERIFY(programm->geometrie_diagramme.AV_Picture->gueltig());
+        for (const char* name : dokumente) {
+            QVERIFY2(programm->haupt->findChild<QAction*>(name)->isEnabled(), name);
+        }
     }
 
     // One press on an arrow that trips the calculation, held while the message is up (a modal

@@ -3,6 +3,7 @@
 // its key filter and Enter, the German map following the region, the Europe and world maps with
 // their dots, hover and clicks, the scrolled world map, the enlarged world map, the fallback of a
 // missing station and the climate labels of both planes.
+#include "climate/Bitmap.h"
 #include "climate/E_Klima.h"
 #include "climate/klimaregionen.h"
 #include "climate/stationskarten.h"
@@ -17,6 +18,7 @@
 #include "ui/Uebersetzen.h"
 #include "ui/ZoomKlima.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
@@ -146,7 +148,9 @@ private slots:
         QVERIFY(!f.Label2->isVisible());
         QCOMPARE(f.Label2->text(),
                  QStringLiteral(" Klimaregion 5 : Franken und \n nördliches Baden-Württemberg "));
-        QCOMPARE(f.Label2->pos(), QPoint(90, 240));
+        // 20 pixels under the pointer, moved left as far as the map's edge wants.
+        QCOMPARE(f.Label2->pos(),
+                 QPoint(std::min(90, f.Picture1->width() - f.Label2->width()), 240));
         QTRY_VERIFY_WITH_TIMEOUT(f.Label2->isVisible(), 2000);
         QVERIFY(f.Timer2->isActive());
         QMouseEvent leer(QEvent::MouseMove, QPointF(1, 1),
@@ -362,37 +366,141 @@ private slots:
                  QString::fromStdString(l.Stationsname[static_cast<std::size_t>(j)]));
     }
 
-    // Opening a project names its own station, not the one picked last on the plane.
+    // Opening a project names its own station, not the one picked last on the plane; the German
+    // map and the region list show the same region after a pick, an open and File > New, also
+    // while the new project's scope hides them.
     void geoeffnetes_projekt_nennt_seine_station() {
         starten("d");
         const KlimawahlFelder& f = programm->klimawahl_felder;
         Projekt& p = programm->p;
+        auto dieselbe_region = [&f](int region) {
+            QCOMPARE(f.Klimaregionwahl->currentIndex(), region - 1);
+            QCOMPARE(f.Picture1->property("bild").toString(),
+                     QStringLiteral("Grafiken/klima%1.bmp").arg(region));
+        };
         waehlen(f.Option[0]);
         QTest::keyClicks(f.plz, QStringLiteral("20095"));
         QTest::keyClick(f.plz, Qt::Key_Return);
         QCOMPARE(p.Klimadatei, p.Regionsdatei[3]);
+        dieselbe_region(3);
         TempOrdner ablage;
         const auto pfad = ablage.schreiben("region3.vel", datei_schreiben(p));
         QTest::mouseClick(f.Picture1, Qt::LeftButton, Qt::NoModifier, QPoint(90, 220));
         QCOMPARE(p.Klimadatei, p.Regionsdatei[5]);
+        dieselbe_region(5);
         dialoge->antworten.push_back(Dialogs::Antwort::Nein);
         dialoge->dateien.push_back(pfad.string());
         programm->haupt->findChild<QAction*>(QStringLiteral("mnuFileOeffnen"))->trigger();
         QCOMPARE(p.Klimadatei, p.Regionsdatei[3]);
         QCOMPARE(a_klima(&KlimaFelder::anz_klimaregion),
                  QStringLiteral("Region ") + f.Klimaregionwahl->itemText(2));
-        QCOMPARE(f.Picture1->property("bild").toString(), QStringLiteral("Grafiken/klima3.bmp"));
+        dieselbe_region(3);
 
-        // File > New: the map highlights the new project's region, no other.
+        // File > New: region 4 on the map and in the list, before and after Germany is chosen.
         dialoge->antworten.push_back(Dialogs::Antwort::Nein);
         programm->haupt->findChild<QAction*>(QStringLiteral("mnuFileNeu"))->trigger();
-        int region = 0;
-        for (int i = 1; i <= KLIMAREGIONEN; ++i) {
-            region = p.Regionsdatei[i] == p.Klimadatei ? i : region;
+        QCOMPARE(p.Klimadatei, p.Regionsdatei[4]);
+        dieselbe_region(4);
+        waehlen(f.Option[0]);
+        dieselbe_region(4);
+    }
+
+    // The hover labels stay whole inside their map (German) or plane (Europe) wherever the
+    // pointer is: at the right edge, at the foot and in the corner.
+    void schwebetext_bleibt_ganz_sichtbar() {
+        starten("d");
+        const KlimawahlFelder& f = programm->klimawahl_felder;
+        const E_Klima& k = programm->ebenen->klima;
+        waehlen(f.Option[0]);
+        const QString bild = f.Picture1->property("bild").toString();
+        const Bitmap karte = bitmap_lesen(VELMARIS_SOURCE_DIR "/" + bild.toStdString());
+        // The named pixels furthest right, furthest down and furthest into the corner.
+        QPoint rechts(-1, 0), unten(0, -1), ecke(0, 0);
+        for (int y = 0; y < karte.hoehe; ++y) {
+            for (int x = 0; x < karte.breite; ++x) {
+                if (Picture1_Hover(karte, x, y).empty()) {
+                    continue;
+                }
+                rechts = x > rechts.x() ? QPoint(x, y) : rechts;
+                unten = y > unten.y() ? QPoint(x, y) : unten;
+                ecke = x + y > ecke.x() + ecke.y() ? QPoint(x, y) : ecke;
+            }
         }
-        QVERIFY(region > 0);
-        QCOMPARE(f.Picture1->property("bild").toString(),
-                 QStringLiteral("Grafiken/klima%1.bmp").arg(region));
+        for (const QPoint& q : {rechts, unten, ecke}) {
+            bewegen(f.Picture1, q);
+            QVERIFY(!f.Label2->text().isEmpty());
+            QVERIFY2(f.Picture1->rect().contains(f.Label2->geometry()),
+                     qPrintable(QStringLiteral("at %1,%2").arg(q.x()).arg(q.y())));
+        }
+
+        // Europe: the station furthest right, whose name would run past the plane.
+        waehlen(f.Option[1]);
+        const Stationsliste& l = k.listen.Europa;
+        int ost = 0;
+        for (int i = 1; i < l.anzahl(); ++i) {
+            ost = l.punkt(i).first > l.punkt(ost).first ? i : ost;
+        }
+        bewegen(f.Picture2, punkt(l, ost));
+        QVERIFY(!k.MausRegion.empty());
+        QWidget* ebene = programm->haupt->eingabe[Hauptfenster::Klima];
+        QVERIFY(ebene->rect().contains(f.MausRegion->geometry()));
+    }
+
+    // A station name longer than its field is shown cut, whole in the tooltip, in the station
+    // list; the climate information plane names it within its field; a short name and every
+    // region stand as they are.
+    void lange_stationsnamen_passen_in_ihr_feld() {
+        starten("d");
+        const KlimawahlFelder& f = programm->klimawahl_felder;
+        const E_Klima& k = programm->ebenen->klima;
+        auto* stationen = static_cast<Namensliste*>(f.Klimaregionwahl2);
+        auto* regionen = static_cast<Namensliste*>(f.Klimaregionwahl);
+        QLabel* name = programm->klima_felder.anz_klimaregion;
+        auto passt = [](const QFontMetrics& fm, const QString& text, int breite) {
+            return fm.horizontalAdvance(text) <= breite;
+        };
+        waehlen(f.Option[1]);
+        const Stationsliste& l = k.listen.Europa;
+        int lang = 0, kurz = 0;
+        for (int i = 1; i < l.anzahl(); ++i) {
+            const auto laenge = [&l](int j) {
+                return QString::fromStdString(l.Stationsname[static_cast<std::size_t>(j)]).size();
+            };
+            lang = laenge(i) > laenge(lang) ? i : lang;
+            kurz = laenge(i) < laenge(kurz) ? i : kurz;
+        }
+        const QString ganz = QString::fromStdString(l.Stationsname[static_cast<std::size_t>(lang)]);
+        f.Klimaregionwahl2->setCurrentIndex(lang);
+        emit f.Klimaregionwahl2->activated(lang);
+        QCOMPARE(stationen->ganzer_text(), ganz);
+        QVERIFY(stationen->gezeigter_text() != ganz);
+        QVERIFY(stationen->gezeigter_text().endsWith(QChar(0x2026)));
+        QVERIFY(
+            passt(stationen->fontMetrics(), stationen->gezeigter_text(), stationen->width() - 20));
+        QCOMPARE(stationen->toolTip(), ganz);
+        // The open list shows every name whole.
+        QVERIFY(stationen->view()->minimumWidth() >
+                stationen->fontMetrics().horizontalAdvance(ganz));
+        QVERIFY(passt(name->fontMetrics(), name->text(), name->contentsRect().width()));
+        QVERIFY(name->toolTip().isEmpty() || name->toolTip() == ganz);
+
+        bild_speichern(*programm->haupt, QStringLiteral("klima_langer_name"));
+
+        // The twelve regions all stand whole in the region list.
+        waehlen(f.Option[0]);
+        for (int i = 0; i < KLIMAREGIONEN; ++i) {
+            regionen->setCurrentIndex(i);
+            regionen->anpassen();
+            QCOMPARE(regionen->gezeigter_text(), regionen->ganzer_text());
+            QCOMPARE(regionen->toolTip(), QString());
+        }
+
+        waehlen(f.Option[1]);
+        f.Klimaregionwahl2->setCurrentIndex(kurz);
+        emit f.Klimaregionwahl2->activated(kurz);
+        QCOMPARE(stationen->gezeigter_text(), stationen->ganzer_text());
+        QCOMPARE(stationen->toolTip(), QString());
+        QCOMPARE(name->toolTip(), QString());
     }
 
     void fehlende_station_meldet_sich_beim_oeffnen_des_bereichs() {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The layout check of the planes' real widgets on the offscreen platform, both languages, on the
-// layout cases: no two input widgets overlap, no widget leaves its plane or frame, no caption is
-// cut by its field and no two captions of a plane overlap.
+// layout cases: no two input widgets overlap, no widget leaves its plane or frame, no caption or
+// list row is cut by its field and no two captions of a plane overlap.
 #include "project/c_glob.h"
 #include "project/projektdatei.h"
 #include "tests/layout/Layoutfaelle.h"
@@ -10,6 +10,7 @@
 #include "tests/ui/Uitesthilfe.h"
 #include "ui/Desktopprogramm.h"
 #include "ui/Hauptfenster.h"
+#include "ui/Stationskarte.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -22,6 +23,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QtTest>
 
 #include <fstream>
@@ -121,6 +123,22 @@ QStringList pruefen(QWidget* ebene, const QString& ort) {
                               .arg(ort, name(w))
                               .arg(laenge)
                               .arg(noetig);
+            }
+        }
+        // A list shows its chosen row whole; a list of station names cuts a long one on purpose
+        // and shows it whole in its tooltip.
+        if (const auto* cb = qobject_cast<const QComboBox*>(w);
+            cb != nullptr && dynamic_cast<const Namensliste*>(w) == nullptr) {
+            QStyleOptionComboBox opt;
+            opt.initFrom(cb);
+            const QRect feld = cb->style()->subControlRect(QStyle::CC_ComboBox, &opt,
+                                                           QStyle::SC_ComboBoxEditField, cb);
+            const int breite = cb->fontMetrics().horizontalAdvance(cb->currentText());
+            if (breite > feld.width() - 4) {
+                fehler << QStringLiteral("%1: list %2 cuts its row \"%3\" (%4 of %5 px)")
+                              .arg(ort, name(w), cb->currentText())
+                              .arg(breite)
+                              .arg(feld.width() - 4);
             }
         }
         if (const auto* l = qobject_cast<const QLabel*>(w)) {
@@ -229,6 +247,51 @@ private slots:
         }
         QVERIFY2(fehler.isEmpty(),
                  qPrintable(QStringLiteral("%1 layout faults").arg(fehler.size())));
+    }
+
+    // Every value of the insulation and building planes shows its unit in its own frame, in
+    // both languages.
+    void einheiten() {
+        struct Einheiten {
+            int ebene;
+            const char* rahmen;
+            QStringList texte;
+        };
+        const Einheiten tabelle[] = {
+            {Hauptfenster::Daemmung, "Frame3", {"W/(m²K)"}},
+            {Hauptfenster::Daemmung, "Frame1", {"m²", "W/(m²K)"}},
+            {Hauptfenster::Daemmung, "Frame2", {"W/(m²K)"}},
+            {Hauptfenster::Gebaeude, "Frame3", {"°C"}},
+            {Hauptfenster::Gebaeude, "Frame7", {"°C"}},
+            {Hauptfenster::Gebaeude, "Frame2", {"kWh/(m² a)", "W/m²"}},
+            {Hauptfenster::Gebaeude, "Frame4", {"1/h", "%"}},
+            {Hauptfenster::Gebaeude, "Frame9", {"kWh"}},
+            {Hauptfenster::Gebaeude, "Frame8", {"Wh/(m³ K)", "kWh/K"}},
+        };
+        for (const char* sprache : {"d", "e"}) {
+            SkriptDialogs dialoge;
+            auto programm = programm_starten(&dialoge, *klima, sprache);
+            Hauptfenster& haupt = *programm->haupt;
+            for (const Einheiten& z : tabelle) {
+                haupt.eingabe_zeigen(z.ebene);
+                auto* rahmen =
+                    haupt.eingabe[static_cast<std::size_t>(z.ebene)]->findChild<QGroupBox*>(
+                        QString::fromUtf8(z.rahmen));
+                QVERIFY2(rahmen != nullptr, z.rahmen);
+                QStringList gezeigt;
+                for (const QLabel* l : rahmen->findChildren<QLabel*>()) {
+                    if (l->isVisibleTo(rahmen)) {
+                        gezeigt << l->text();
+                    }
+                }
+                for (const QString& t : z.texte) {
+                    QVERIFY2(gezeigt.contains(t), qPrintable(QStringLiteral("%1 %2 of plane %3: %4")
+                                                                 .arg(sprache, z.rahmen)
+                                                                 .arg(z.ebene)
+                                                                 .arg(t)));
+                }
+            }
+        }
     }
 };
 
