@@ -7,6 +7,7 @@
 #include "charts/A_Uebersicht.h"
 #include "charts/Energiebilder.h"
 #include "charts/Geometriebilder.h"
+#include "project/c_glob.h"
 
 #include <utility>
 
@@ -68,25 +69,12 @@ void auffrischen(const Projekt& p, Ergebnisebenen& x, const std::function<bool(E
 
 Auffrischtabelle::Auffrischtabelle(Projekt& p, Ergebnisebenen ebenen,
                                    std::function<bool(Ebene)> sichtbar,
-                                   Diagrammeinstellung einstellung, Rechenbeobachter* vorher)
-    : p_(p), ebenen_(std::move(ebenen)), sichtbar_(std::move(sichtbar)),
-      einstellung_(std::move(einstellung)), vorher_(vorher) {
-    rechenbeobachter_setzen(p_, this);
-}
+                                   Diagrammeinstellung einstellung)
+    : ebenen_(std::move(ebenen)), sichtbar_(std::move(sichtbar)),
+      einstellung_(std::move(einstellung)), beobachtung_(p.beobachter, *this) {}
 
-Auffrischtabelle::~Auffrischtabelle() {
-    rechenbeobachter_setzen(p_, vorher_);
-}
-
-void Auffrischtabelle::geometrie_berechnet(Projekt& p) {
-    if (vorher_ != nullptr) {
-        vorher_->geometrie_berechnet(p);
-    }
-}
+void Auffrischtabelle::geometrie_berechnet(Projekt&) {}
 
 void Auffrischtabelle::alles_berechnet(Projekt& p) {
-    if (vorher_ != nullptr) {
-        vorher_->alles_berechnet(p);
-    }
     auffrischen(p, ebenen_, sichtbar_, einstellung_);
 }

@@ -36,15 +36,12 @@ struct Ergebnisebenen {
 void auffrischen(const Projekt& p, Ergebnisebenen& ebenen,
                  const std::function<bool(Ebene)>& sichtbar, const Diagrammeinstellung& e);
 
-// The table as the one observer of a project's driver runs. It takes over the registration from
-// `vorher` (the observer registered before it, usually the input planes), tells it of every run
-// first, and gives the registration back when it is destroyed; so build it after `vorher` and
-// destroy it before.
+// The table as an observer of a project's driver runs, from its construction to its end: it
+// draws after every whole run, after the observers registered before it (the input planes).
 class Auffrischtabelle : public Rechenbeobachter {
 public:
     Auffrischtabelle(Projekt& p, Ergebnisebenen ebenen, std::function<bool(Ebene)> sichtbar,
-                     Diagrammeinstellung einstellung, Rechenbeobachter* vorher = nullptr);
-    ~Auffrischtabelle() override;
+                     Diagrammeinstellung einstellung);
     Auffrischtabelle(const Auffrischtabelle&) = delete;
     Auffrischtabelle& operator=(const Auffrischtabelle&) = delete;
 
@@ -52,9 +49,8 @@ public:
     void alles_berechnet(Projekt& p) override;
 
 private:
-    Projekt& p_;
     Ergebnisebenen ebenen_;
     std::function<bool(Ebene)> sichtbar_;
     Diagrammeinstellung einstellung_;
-    Rechenbeobachter* vorher_;
+    Beobachtung beobachtung_;
 };

@@ -5,16 +5,9 @@
 
 Eingabeflaechen::Eingabeflaechen(Projekt& p, char dezimal_zeichen)
     : dezimal(dezimal_zeichen), daemmung(p, dezimal), fenster(p, dezimal),
-      geometrie(p, daemmung, dezimal), gebaeude(p, fenster, dezimal), energie(p), p_(p) {
+      geometrie(p, daemmung, dezimal), gebaeude(p, fenster, dezimal), energie(p), p_(p),
+      beobachtung_(p.beobachter, *this) {
     E_Klima_erstellen(klima, p);
-    rechenbeobachter_setzen(p_, this);
-}
-
-Eingabeflaechen::~Eingabeflaechen() {
-    // An observer that registered over the planes keeps its place.
-    if (rechenbeobachter(p_) == this) {
-        rechenbeobachter_setzen(p_, nullptr);
-    }
 }
 
 void Eingabeflaechen::geometrie_berechnet(Projekt&) {

@@ -18,7 +18,6 @@ class Eingabeflaechen : public Rechenbeobachter {
 public:
     // `dezimal` is the decimal mark of the displays' number patterns.
     explicit Eingabeflaechen(Projekt& p, char dezimal = '.');
-    ~Eingabeflaechen() override;
     Eingabeflaechen(const Eingabeflaechen&) = delete;
     Eingabeflaechen& operator=(const Eingabeflaechen&) = delete;
 
@@ -39,4 +38,5 @@ public:
 
 private:
     Projekt& p_;
+    Beobachtung beobachtung_;
 };

@@ -3,6 +3,8 @@
 
 #include "project/Laufzeitfehler.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
@@ -153,9 +155,20 @@ std::string datei_text(const std::string& pfad, std::size_t grenze) {
     if (!ein) {
         throw Laufzeitfehler(Laufzeitfehler::DateiNichtGefunden, "File not found: " + pfad);
     }
-    std::string text(grenze, '\0');
-    ein.read(text.data(), static_cast<std::streamsize>(grenze));
-    text.resize(static_cast<std::size_t>(ein.gcount()));
+    // Read in pieces into a string as long as the file: a string of the full limit would be
+    // zeroed first, which costs a short command more than the reading.
+    std::string text;
+    const std::uintmax_t groesse = fs::file_size(pfad, fehler);
+    text.reserve(fehler ? 0 : static_cast<std::size_t>(std::min<std::uintmax_t>(groesse, grenze)));
+    std::array<char, 1 << 16> stueck;
+    while (text.size() < grenze) {
+        ein.read(stueck.data(),
+                 static_cast<std::streamsize>(std::min(stueck.size(), grenze - text.size())));
+        text.append(stueck.data(), static_cast<std::size_t>(ein.gcount()));
+        if (!ein) {
+            break;
+        }
+    }
     if (ein.bad()) {
         throw Laufzeitfehler(Laufzeitfehler::DateiZugriff, "Read fault: " + pfad);
     }

@@ -7,6 +7,7 @@
 // products in between run in double.
 
 #include "project/OneBased.h"
+#include "project/Rechenbeobachter.h"
 
 #include <array>
 #include <cstdint>
@@ -233,6 +234,9 @@ struct Projekt {
     std::string txt_Klima_fehlt, txt_Klima_Titel;   // a project's station file is missing
     std::string txt_Sprache;                        // a language change needs a new start
     std::string txt_Ueberwaermung, txt_Monat, txt_Jahresbilanz, txt_Raumluft, txt_Aussenluft;
+
+    // Who is told of the driver's runs on this record.
+    Beobachterliste beobachter;
 };
 
 // The one project of the running program.

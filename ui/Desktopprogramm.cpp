@@ -55,9 +55,8 @@ Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
 }
 
 Desktopprogramm::~Desktopprogramm() {
-    // The refresh table gives the observer back to the planes before they go.
+    // The refresh table draws on the main window's charts: it goes before them.
     auffrischen_.reset();
-    rechenlauf_.reset();
     zoom.reset();
     klimaimport.reset();
     haupt.reset();
@@ -283,7 +282,7 @@ void Desktopprogramm::ergebnisse_bauen() {
     const EnergieDiagramme& en = energie_diagramme;
     energie_flaechen_ = std::make_unique<EnergieFlaechen>(EnergieFlaechen{
         en.Monatsuebersicht->flaeche(), en.Picture2->flaeche(), en.Picture3->flaeche()});
-    rechenlauf_ = std::make_unique<Rechenlauf>(p, ebenen.get());
+    rechenlauf_ = std::make_unique<Rechenlauf>(p);
     auffrischen_ = std::make_unique<Auffrischtabelle>(
         p, ergebnisebenen(),
         [this](Ebene e) {
@@ -306,7 +305,7 @@ void Desktopprogramm::ergebnisse_bauen() {
             }
             return false;
         },
-        einstellung_, rechenlauf_.get());
+        einstellung_);
     // A chart that comes up is drawn from the record as it stands.
     auto beim_zeigen = [this](ChartWidget* c, Flaeche f) {
         c->zeichnen = [this, c, f] {

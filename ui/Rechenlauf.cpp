@@ -3,27 +3,15 @@
 
 #include "project/c_glob.h"
 
-Rechenlauf::Rechenlauf(const Projekt& p, Rechenbeobachter* weiter) : p_(p), weiter_(weiter) {}
-
-Rechenlauf::~Rechenlauf() {
-    if (rechenbeobachter(p_) == this) {
-        rechenbeobachter_setzen(p_, weiter_);
-    }
-}
+Rechenlauf::Rechenlauf(Projekt& p) : beobachtung_(p.beobachter, *this) {}
 
 void Rechenlauf::geometrie_berechnet(Projekt& p) {
-    if (weiter_ != nullptr) {
-        weiter_->geometrie_berechnet(p);
-    }
     if (p.FormLoadGuard == 0) {
         stand_ = Stand::Abgebrochen;
     }
 }
 
-void Rechenlauf::alles_berechnet(Projekt& p) {
-    if (weiter_ != nullptr) {
-        weiter_->alles_berechnet(p);
-    }
+void Rechenlauf::alles_berechnet(Projekt&) {
     stand_ = Stand::Fertig;
 }
 

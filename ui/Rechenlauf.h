@@ -5,17 +5,15 @@
 
 struct Projekt;
 
-// Stands between the refresh table and the planes: passes every run of the driver on and keeps
-// how the last run of a whole year went. A run that did its geometry with the guard at 0 and
+// Keeps how the last run of a whole year went, as an observer of the driver's runs between the
+// planes and the refresh table. A run that did its geometry with the guard at 0 and
 // never reached its end was stopped by a fault, also where the fault was caught and reported
 // on the way (opening a project).
 class Rechenlauf : public Rechenbeobachter {
 public:
     enum class Stand { Keiner, Abgebrochen, Fertig };
 
-    Rechenlauf(const Projekt& p, Rechenbeobachter* weiter);
-    // Gives a registration that came back to it on to the planes.
-    ~Rechenlauf() override;
+    explicit Rechenlauf(Projekt& p);
     Rechenlauf(const Rechenlauf&) = delete;
     Rechenlauf& operator=(const Rechenlauf&) = delete;
 
@@ -26,7 +24,6 @@ public:
     Stand abholen();
 
 private:
-    const Projekt& p_;
-    Rechenbeobachter* weiter_;
     Stand stand_ = Stand::Keiner;
+    Beobachtung beobachtung_;
 };

@@ -1,45 +1,49 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The command drucken of the desktop build: the printed pages as a PDF file, through the same
-// composer as the print dialog, with Qt's PDF writer on the offscreen platform.
+// The command drucken: the printed pages need Qt's PDF writer, which no other command needs. The
+// printing program velmaris-drucken takes this process's place with the same arguments, so that
+// its messages and its exit status are the command's own.
 #include "app/cli/befehle.h"
-#include "app/cli/cli_drucken_argumente.h"
-#include "app/cli/cli_programm.h"
 #include "app/cli/pfade.h"
-#include "project/c_glob.h"
-#include "ui/QtDrucker.h"
 
-#include <QGuiApplication>
+#include <unistd.h>
 
-int befehl_drucken(const std::vector<std::string>& args, std::ostream&, std::ostream& fehler) {
-    Druckargumente a;
-    if (!druckargumente_lesen(args, a, fehler)) {
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+// Beside velmaris-cli in a build, in libexec/velmaris beside bin/ when installed; empty when
+// neither holds it.
+std::string druckprogramm() {
+    const std::filesystem::path ordner = programmordner();
+    for (const std::filesystem::path& k :
+         {ordner / "velmaris-drucken",
+          ordner.parent_path() / "libexec" / "velmaris" / "velmaris-drucken"}) {
+        if (access(k.c_str(), X_OK) == 0) {
+            return k.string();
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+int befehl_drucken(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler) {
+    const std::string programm = druckprogramm();
+    if (programm.empty()) {
+        fehler << "velmaris-cli: drucken needs the desktop build (velmaris-drucken is missing)\n";
         return 1;
     }
-    if (a.klima.empty()) {
-        a.klima = datenordner("klima");
+    std::vector<char*> argv{const_cast<char*>("velmaris-drucken")};
+    for (const std::string& a : args) {
+        argv.push_back(const_cast<char*>(a.c_str()));
     }
-
-    KonsolenProgramm programm(a.klima, a.sprache);
-    if (programm.oeffnen(a.projekt, fehler) != 0) {
-        fehler << "velmaris-cli drucken: cannot read the project \"" << a.projekt << "\"\n";
-        return 2;
-    }
-
-    // Fonts need a GUI application; without a display it runs on the offscreen platform.
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    int argc = 1;
-    char name[] = "velmaris-cli";
-    char* argv[] = {name, nullptr};
-    QGuiApplication anwendung(argc, argv);
-
-    const Projekt& p = programm.p;
-    std::string text;
-    if (!pdf_ausdrucken(a.ziel, p, *programm.ebenen, a.auswahl, p.Sprache == "e" ? '.' : ',',
-                        text)) {
-        fehler << "velmaris-cli drucken: " << text << "\n";
-        return 2;
-    }
-    return 0;
+    argv.push_back(nullptr);
+    aus.flush();
+    fehler.flush();
+    execv(programm.c_str(), argv.data());
+    fehler << "velmaris-cli: cannot start " << programm << ": " << std::strerror(errno) << "\n";
+    return 1;
 }

@@ -96,16 +96,16 @@ public:
     void alles_berechnet(Projekt&) override { ++alles; }
 };
 
-TEST(Auffrischtabelle, TheDriverRunsItAfterAWholeRunAndPassesTheRunsOn) {
+TEST(Auffrischtabelle, TheDriverRunsItAfterAWholeRunAfterTheObserversBeforeIt) {
     TempOrdner o;
     auto p = diagrammprojekt(o, "d");
     Zaehler vorher;
-    rechenbeobachter_setzen(*p, &vorher);
+    const Beobachtung angemeldet(p->beobachter, vorher);
     Alle a;
     {
         Auffrischtabelle tabelle(
-            *p, a.ebenen(), [](Ebene x) { return x == Ebene::Uebersicht; }, einstellung("d"),
-            &vorher);
+            *p, a.ebenen(), [](Ebene x) { return x == Ebene::Uebersicht; }, einstellung("d"));
+        EXPECT_EQ(p->beobachter.alle(), (std::vector<Rechenbeobachter*>{&vorher, &tabelle}));
         alles_berechnen(*p);
         EXPECT_EQ(vorher.geometrie, 1);
         EXPECT_EQ(vorher.alles, 1);
@@ -119,11 +119,11 @@ TEST(Auffrischtabelle, TheDriverRunsItAfterAWholeRunAndPassesTheRunsOn) {
         EXPECT_EQ(vorher.alles, 1);
         EXPECT_EQ(a.u.Monatsbilanz.of_kind(RecordingSurface::Primitive::Kind::Cls).size(), 1u);
     }
-    // The table gives the registration back.
+    // The table leaves with its registration; the one before it stays.
     alles_berechnen(*p);
     EXPECT_EQ(vorher.alles, 2);
     EXPECT_EQ(a.u.Monatsbilanz.of_kind(RecordingSurface::Primitive::Kind::Cls).size(), 1u);
-    rechenbeobachter_setzen(*p, nullptr);
+    EXPECT_EQ(p->beobachter.alle(), std::vector<Rechenbeobachter*>{&vorher});
 }
 
 } // namespace

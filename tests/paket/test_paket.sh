@@ -29,7 +29,7 @@ for d in libqt6widgets6 libqt6gui6 libqt6core6 libstdc++6 libc6 qt6-qpa-plugins 
 done
 
 liste=$(dpkg-deb -c "$deb" | awk '{print $6}')
-for f in usr/bin/velmaris usr/bin/velmaris-cli \
+for f in usr/bin/velmaris usr/bin/velmaris-cli usr/libexec/velmaris/velmaris-drucken \
     usr/share/applications/velmaris.desktop \
     usr/share/icons/hicolor/scalable/apps/velmaris.svg \
     usr/share/icons/hicolor/scalable/mimetypes/application-x-velmaris-project.svg \
@@ -62,6 +62,10 @@ unset XDG_CONFIG_HOME XDG_DATA_HOME
 cli="$arbeit/wurzel/usr/bin/velmaris-cli"
 "$cli" calc --new >"$arbeit/neu.json" || fehler "calc --new from the unpacked tree"
 grep -q '"velmaris-calc/1"' "$arbeit/neu.json" || fehler "calc --new printed no result"
+# Printing runs in the program of its own in libexec.
+"$cli" save "$arbeit/neu.vel" && "$cli" drucken "$arbeit/neu.vel" "$arbeit/neu.pdf" --seiten 1 ||
+    fehler "drucken from the unpacked tree"
+[ "$(head -c 5 "$arbeit/neu.pdf")" = "%PDF-" ] || fehler "drucken wrote no PDF"
 
 # An import goes to the user's station folder, and the station lists show it with the delivered.
 "$cli" import "$quelle/tests/daten/DEU_TRYregion01_Bremerhaven_TRY2015_535591085872_Jahr.dat" \

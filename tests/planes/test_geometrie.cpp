@@ -107,20 +107,30 @@ TEST(E_Geometrie, OrientationAndAVChart) {
     EXPECT_EQ(g.av_anz.Caption.back(), ' ');
 }
 
-TEST(Eingabeflaechen, AnObserverRegisteredOverThePlanesKeepsItsPlace) {
-    struct Danach : Rechenbeobachter {
-        Rechenbeobachter* vorher = nullptr;
-        void geometrie_berechnet(Projekt& p) override { vorher->geometrie_berechnet(p); }
-        void alles_berechnet(Projekt& p) override { vorher->alles_berechnet(p); }
-    } danach;
+TEST(Eingabeflaechen, EachRegistrationRemovesExactlyItsOwnObserverWhateverTheOrder) {
+    struct Zaehler : Rechenbeobachter {
+        Zaehler(std::vector<char>& f, char n) : folge(f), name(n) {}
+        std::vector<char>& folge;
+        char name;
+        void geometrie_berechnet(Projekt&) override { folge.push_back(name); }
+        void alles_berechnet(Projekt&) override {}
+    };
     auto p = leeres_projekt();
+    std::vector<char> folge;
+    Zaehler a(folge, 'a'), b(folge, 'b');
+    auto ebenen = std::make_unique<Eingabeflaechen>(*p);
+    auto erste = std::make_unique<Beobachtung>(p->beobachter, a);
     {
-        Eingabeflaechen ebenen(*p);
-        EXPECT_EQ(rechenbeobachter(*p), &ebenen);
-        danach.vorher = rechenbeobachter(*p);
-        rechenbeobachter_setzen(*p, &danach);
+        const Beobachtung zweite(p->beobachter, b);
+        EXPECT_EQ(p->beobachter.alle(), (std::vector<Rechenbeobachter*>{ebenen.get(), &a, &b}));
+        // The planes, registered first, leave before the others and take no one with them.
+        ebenen.reset();
+        p->beobachter.geometrie_berechnet(*p);
+        EXPECT_EQ(folge, (std::vector<char>{'a', 'b'}));
+        erste.reset();
     }
-    EXPECT_EQ(rechenbeobachter(*p), &danach);
-    rechenbeobachter_setzen(*p, nullptr);
-    EXPECT_EQ(rechenbeobachter(*p), nullptr);
+    EXPECT_TRUE(p->beobachter.alle().empty());
+    // A copy of a record is told of nothing.
+    const Beobachtung wieder(p->beobachter, a);
+    EXPECT_TRUE(std::make_unique<Projekt>(*p)->beobachter.alle().empty());
 }
