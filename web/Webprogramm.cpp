@@ -6,6 +6,7 @@
 #include "charts/A_Heizen.h"
 #include "charts/Neuzeichnen.h"
 #include "charts/Tooltiptexte.h"
+#include "climate/E_Klima.h"
 #include "climate/klimainfo_texte.h"
 #include "language/c_Sprache.h"
 #include "project/FatalError.h"
@@ -337,6 +338,34 @@ bool Webprogramm::klicken(const std::string& name) {
     return false;
 }
 
+bool Webprogramm::klima(const std::string& was, int wert, const std::string& text) {
+    E_Klima& k = ebenen_->klima;
+    if (was == "Option" && wert >= 1 && wert <= 3) {
+        using Handler = void (*)(E_Klima&, Projekt&, Dialogs&, bool);
+        const Handler h[3] = {Option1_Click, Option2_Click, Option3_Click};
+        return ausfuehren([this, &k, h = h[wert - 1]] { h(k, p, dialoge_, true); });
+    }
+    if (was == "Klimaregionwahl") {
+        return ausfuehren([this, &k, wert] {
+            k.Klimaregionwahl.waehlen(wert);
+            Klimaregionwahl_Click(k, p);
+        });
+    }
+    if (was == "Klimaregionwahl2") {
+        return ausfuehren([this, &k, wert] {
+            k.Klimaregionwahl2.waehlen(wert);
+            Klimaregionwahl2_Click(k, p);
+        });
+    }
+    if (was == "plz") {
+        return ausfuehren([this, &k, &text] {
+            k.plz = text.substr(0, 5);
+            PLZsuchen_Click(k, p, dialoge_);
+        });
+    }
+    return false;
+}
+
 void Webprogramm::monat(int m) {
     if (m < 1 || m > 12) {
         return;
@@ -584,6 +613,28 @@ std::string Webprogramm::zustand() const {
     j.field("Frame_Auswahl_Left", e.Frame_Auswahl_Left);
     j.field("Frame_Auswahl_Top", e.Frame_Auswahl_Top);
     j.field("Frame_Auswahl_Height", e.Frame_Auswahl_Height);
+    j.end_object();
+
+    const E_Klima& k = ebenen_->klima;
+    j.key("klima");
+    j.begin_object();
+    j.field("auswahl", static_cast<int>(p.Klimaauswahl));
+    j.field("sichtbar", k.sichtbar);
+    j.field("Picture1", k.Picture1);
+    j.field("plz", k.plz);
+    for (const auto& [n, l] : std::initializer_list<std::pair<const char*, const Klimaliste*>>{
+             {"Klimaregionwahl", &k.Klimaregionwahl}, {"Klimaregionwahl2", &k.Klimaregionwahl2}}) {
+        j.key(n);
+        j.begin_object();
+        j.key("zeilen");
+        j.begin_array();
+        for (const std::string& e : l->Eintraege) {
+            j.value(e);
+        }
+        j.end_array();
+        j.field("index", l->ListIndex);
+        j.end_object();
+    }
     j.end_object();
 
     // The fields that the result planes write themselves.

@@ -70,6 +70,9 @@ public:
     // A plane's own buttons and fields: "Command_HR(i)", "Command1".."Command3",
     // "Label_Auswahl(i)", "Frame_Auswahl".
     bool klicken(const std::string& name);
+    // The climate plane: "Option" with the scope 1..3, "Klimaregionwahl" or "Klimaregionwahl2"
+    // with the row chosen, "plz" with the post code typed and searched.
+    bool klima(const std::string& was, int wert, const std::string& text);
     // A month button of the overview, 1..12.
     void monat(int m);
     // A plane's button: the plane comes up, its charts are drawn.

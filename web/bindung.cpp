@@ -85,6 +85,9 @@ public:
     bool seite(const std::string& n, int r) { return programm_->seite(n, r); }
     bool setzen(const std::string& n, int w) { return programm_->setzen(n, w); }
     bool klicken(const std::string& n) { return programm_->klicken(n); }
+    bool klima(const std::string& was, int w, const std::string& t) {
+        return programm_->klima(was, w, t);
+    }
     void monat(int m) { programm_->monat(m); }
     bool eingabe_zeigen(int e) { return programm_->eingabe_zeigen(e); }
     bool ausgabe_zeigen(int e) { return programm_->ausgabe_zeigen(e); }
@@ -139,6 +142,7 @@ EMSCRIPTEN_BINDINGS(velmaris) {
         .function("seite", &Seitenprogramm::seite)
         .function("setzen", &Seitenprogramm::setzen)
         .function("klicken", &Seitenprogramm::klicken)
+        .function("klima", &Seitenprogramm::klima)
         .function("monat", &Seitenprogramm::monat)
         .function("eingabe_zeigen", &Seitenprogramm::eingabe_zeigen)
         .function("ausgabe_zeigen", &Seitenprogramm::ausgabe_zeigen)

@@ -2,7 +2,7 @@
 // Writes the main window's layout for the browser page: every widget of the desktop's planes
 // with its kind, place in its parent, German and English text, and the model a bound control
 // follows. `seitenlage FILE` writes FILE; `seitenlage --pruefen FILE` fails when FILE is not
-// what the planes build now.
+// what the planes build now; `seitenlage --diagramme DIR` saves the overview's charts as PNG.
 #include "tests/project/SkriptDialogs.h"
 #include "tests/ui/Uitesthilfe.h"
 #include "ui/ChartWidget.h"
@@ -19,6 +19,8 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -188,6 +190,25 @@ QString farbname(const QColor& c) {
     return c.name(QColor::HexRgb);
 }
 
+// The menu's entries with their names and both languages' texts, submenus nested.
+QJsonArray menue(const QWidget* d, const QWidget* e) {
+    QJsonArray liste;
+    const QList<QAction*> ad = d->actions(), ae = e->actions();
+    for (int i = 0; i < ad.size() && i < ae.size(); ++i) {
+        if (ad[i]->isSeparator()) {
+            continue;
+        }
+        QJsonObject o{{QStringLiteral("name"), ad[i]->objectName()},
+                      {QStringLiteral("text"), QJsonObject{{QStringLiteral("d"), ad[i]->text()},
+                                                           {QStringLiteral("e"), ae[i]->text()}}}};
+        if (ad[i]->menu() != nullptr && ae[i]->menu() != nullptr) {
+            o[QStringLiteral("eintraege")] = menue(ad[i]->menu(), ae[i]->menu());
+        }
+        liste.append(o);
+    }
+    return liste;
+}
+
 QByteArray seitenlage() {
     Lauf deutsch("d");
     Lauf englisch("e");
@@ -242,6 +263,10 @@ QByteArray seitenlage() {
                 }
             }
         }
+        if (const auto* c = dynamic_cast<const ChartWidget*>(w)) {
+            const Rgb h = const_cast<ChartWidget*>(c)->flaeche().BackColor();
+            o[QStringLiteral("hintergrund")] = farbname(QColor(h.r, h.g, h.b));
+        }
         if (const auto n = namen.find(w); n != namen.end()) {
             o[QStringLiteral("feld")] = n->second;
         }
@@ -280,7 +305,9 @@ QByteArray seitenlage() {
     const QSize groesse = deutsch.programm->haupt->centralWidget()->size();
     QJsonObject wurzel{{QStringLiteral("breite"), groesse.width()},
                        {QStringLiteral("hoehe"), groesse.height()},
-                       {QStringLiteral("widgets"), liste}};
+                       {QStringLiteral("widgets"), liste},
+                       {QStringLiteral("menue"), menue(deutsch.programm->haupt->menuBar(),
+                                                       englisch.programm->haupt->menuBar())}};
     return QJsonDocument(wurzel).toJson(QJsonDocument::Indented);
 }
 
@@ -290,9 +317,20 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     const QStringList a = QApplication::arguments();
+    // The overview's charts of the new project in German as the desktop draws them, for the
+    // browser tests' comparison.
+    if (a.size() == 3 && a[1] == QStringLiteral("--diagramme")) {
+        Lauf lauf("d");
+        const UebersichtDiagramme& u = lauf.programm->uebersicht_diagramme;
+        bool gut =
+            u.Monatsbilanz->flaeche().bild().save(a[2] + QStringLiteral("/Monatsbilanz.png"));
+        gut =
+            u.UeberGrafik->flaeche().bild().save(a[2] + QStringLiteral("/UeberGrafik.png")) && gut;
+        return gut ? 0 : 1;
+    }
     const bool pruefen = a.size() == 3 && a[1] == QStringLiteral("--pruefen");
     if (a.size() != 2 && !pruefen) {
-        std::cerr << "usage: seitenlage [--pruefen] FILE\n";
+        std::cerr << "usage: seitenlage [--pruefen] FILE | --diagramme DIR\n";
         return 2;
     }
     const std::string datei = a.last().toStdString();
