@@ -166,7 +166,7 @@ try {
   spawnSync(nativ, ['save', projekt]);
   const wahl = await seite.$('#dateiwahl');
   await wahl.uploadFile(projekt);
-  await seite.waitForFunction(() => document.title.includes('nativ'), { timeout: 5000 });
+  await seite.waitForFunction(() => document.title.toLowerCase().includes('nativ.vel'), { timeout: 5000 });
   const gespeichert = await seite.evaluate(() => Array.from(window.velmaris.speichern(true)));
   pruefen(Buffer.from(gespeichert).equals(readFileSync(projekt)),
     'a project opened and saved again has the desktop\'s bytes');
@@ -175,19 +175,22 @@ try {
   const station = await seite.evaluate(() => {
     const v = window.velmaris;
     const vorher = new Set(v.geladen);
+    v.ausgabe_zeigen(1);
+    const mittel_vorher = document.querySelector('[data-feld="anz_MittelJahrTemp"]').textContent;
     v.eingabe_zeigen(4);
     const liste = document.querySelector('[data-name="E_Klima"] select[data-name="Klimaregionwahl"]');
     liste.selectedIndex = 8;
     liste.dispatchEvent(new Event('change'));
     v.ausgabe_zeigen(1);
     return {
+      mittel_vorher,
       neu: [...v.geladen].filter((d) => !vorher.has(d)),
       mittel: document.querySelector('[data-feld="anz_MittelJahrTemp"]').textContent,
       region: document.querySelector('[data-feld="anz_klimaregion"]').textContent,
     };
   });
-  pruefen(station.neu.length === 1 && /\d/.test(station.mittel),
-    `a station is fetched when chosen (${station.neu}) and its year mean ${station.mittel} shows for ${station.region}`);
+  pruefen(station.neu.length === 1 && /\d/.test(station.mittel) && station.mittel !== station.mittel_vorher,
+    `a station is fetched when chosen (${station.neu}) and its year mean ${station.mittel} (before ${station.mittel_vorher}) shows for ${station.region}`);
 
   // The language switch: the page comes back in English, and stays so.
   await seite.evaluate(() => document.querySelector('[data-name="mnuSpracheEnglisch"]').click());
