@@ -395,6 +395,10 @@ bool Webprogramm::ausgabe_zeigen(int ebene) {
     return true;
 }
 
+bool Webprogramm::berechnen() {
+    return ausfuehren([this] { alles_berechnen(p); });
+}
+
 bool Webprogramm::neu() {
     const bool gut = ausfuehren([this] { io_->datei_neu(); });
     gezeigte_zeichnen();

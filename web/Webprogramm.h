@@ -78,6 +78,8 @@ public:
     // A plane's button: the plane comes up, its charts are drawn.
     bool eingabe_zeigen(int ebene);
     bool ausgabe_zeigen(int ebene);
+    // The whole year calculated anew, as a change of an input does.
+    bool berechnen();
     // The project commands of the menu; a path the dialogs will answer with is set before.
     bool neu();
     bool oeffnen(const std::string& pfad);

@@ -91,6 +91,7 @@ public:
     void monat(int m) { programm_->monat(m); }
     bool eingabe_zeigen(int e) { return programm_->eingabe_zeigen(e); }
     bool ausgabe_zeigen(int e) { return programm_->ausgabe_zeigen(e); }
+    bool berechnen() { return programm_->berechnen(); }
     bool neu() { return programm_->neu(); }
     bool oeffnen(const std::string& pfad) { return programm_->oeffnen(pfad); }
     std::string speichern(bool unter, const std::string& pfad) {
@@ -146,6 +147,7 @@ EMSCRIPTEN_BINDINGS(velmaris) {
         .function("monat", &Seitenprogramm::monat)
         .function("eingabe_zeigen", &Seitenprogramm::eingabe_zeigen)
         .function("ausgabe_zeigen", &Seitenprogramm::ausgabe_zeigen)
+        .function("berechnen", &Seitenprogramm::berechnen)
         .function("neu", &Seitenprogramm::neu)
         .function("oeffnen", &Seitenprogramm::oeffnen)
         .function("speichern", &Seitenprogramm::speichern)

@@ -32,18 +32,34 @@ export function texthoehe(font) {
   return h;
 }
 
+const oberlaengen = new Map();
 function oberlaenge(font) {
-  messer.font = font;
-  return messer.measureText('Hg').fontBoundingBoxAscent;
+  let a = oberlaengen.get(font);
+  if (a === undefined) {
+    messer.font = font;
+    a = messer.measureText('Hg').fontBoundingBoxAscent;
+    oberlaengen.set(font, a);
+  }
+  return a;
 }
 
 export function abspielen(canvas, befehle, texte, breite, hoehe, massstab) {
   const ctx = canvas.getContext('2d');
   ctx.setTransform(massstab, 0, 0, massstab, 0, 0);
   ctx.lineCap = 'butt';
+  // Consecutive lines of one colour and width are stroked as one path: a temperature course
+  // has hundreds of them.
+  let offen = null;
+  const schliessen = () => {
+    if (offen !== null) {
+      ctx.stroke();
+      offen = null;
+    }
+  };
   let i = 0;
   while (i < befehle.length) {
     const art = befehle[i];
+    if (art !== LINIE) schliessen();
     switch (art) {
       case LEEREN:
         ctx.fillStyle = farbe(befehle[i + 1]);
@@ -54,21 +70,21 @@ export function abspielen(canvas, befehle, texte, breite, hoehe, massstab) {
         const x1 = r(befehle[i + 1]), y1 = r(befehle[i + 2]);
         const x2 = r(befehle[i + 3]), y2 = r(befehle[i + 4]);
         const w = befehle[i + 6];
-        ctx.strokeStyle = farbe(befehle[i + 5]);
-        ctx.lineWidth = w;
-        if (x1 === y1 && x2 === y2 && x1 === x2) {
-          i += 7;
-          break;
-        }
+        const schluessel = befehle[i + 5] * 64 + w;
         // The end pixel is left out: the line stops half a pixel short of its end's centre.
         const dx = x2 - x1, dy = y2 - y1, l = Math.hypot(dx, dy);
         if (l > 0) {
+          if (offen !== schluessel) {
+            schliessen();
+            ctx.strokeStyle = farbe(befehle[i + 5]);
+            ctx.lineWidth = w;
+            ctx.beginPath();
+            offen = schluessel;
+          }
           const o = w % 2 === 1 ? 0.5 : 0;
           const k = (l - 0.5) / l;
-          ctx.beginPath();
           ctx.moveTo(x1 + o - (dx / l) * 0.5, y1 + o - (dy / l) * 0.5);
           ctx.lineTo(x1 + o + dx * k, y1 + o + dy * k);
-          ctx.stroke();
         }
         i += 7;
         break;
@@ -150,4 +166,5 @@ export function abspielen(canvas, befehle, texte, breite, hoehe, massstab) {
         throw new Error('unknown chart command ' + art);
     }
   }
+  schliessen();
 }

@@ -158,12 +158,12 @@ function scrollbalken(w, el) {
     const groesse = 16;
     if (senkrecht) {
       griff.style.height = groesse + 'px';
-      griff.style.top = `calc(${anteil} * (100% - ${groesse}px))`;
+      stil(griff, 'top', `calc(${anteil} * (100% - ${groesse}px))`);
     } else {
       griff.style.width = groesse + 'px';
-      griff.style.left = `calc(${anteil} * (100% - ${groesse}px))`;
+      stil(griff, 'left', `calc(${anteil} * (100% - ${groesse}px))`);
     }
-    el.setAttribute('aria-valuenow', s.wert);
+    if (el.getAttribute('aria-valuenow') !== String(s.wert)) el.setAttribute('aria-valuenow', s.wert);
   };
   el.setAttribute('role', 'scrollbar');
 }
@@ -304,13 +304,26 @@ function sichtbar(el) {
   return true;
 }
 
+const feldelemente = new Map();
+
+// Changes only what differs, so that an unchanged control costs no layout.
+function text_setzen(el, text) {
+  if (el.textContent !== text) el.textContent = text;
+}
+function verbergen(el, verborgen) {
+  if (el.hidden !== verborgen) el.hidden = verborgen;
+}
+function stil(el, name, wert) {
+  if (el.style[name] !== wert) el.style[name] = wert;
+}
+
 // Brings every bound control to its model's state and replays the charts that were drawn anew.
 function abgleichen() {
   zustand = JSON.parse(programm.zustand());
   const gueltig = zustand.gueltig === 1;
   for (const [name, s] of Object.entries(zustand.steuer)) {
     for (const { el, w } of nach_modell.get(name) || []) {
-      if ('sichtbar' in s && w.art !== 'option') el.hidden = s.sichtbar === 0;
+      if ('sichtbar' in s && w.art !== 'option') verbergen(el, s.sichtbar === 0);
       if (w.art === 'scroll') {
         el._abgleich(s);
         el.classList.toggle('aus', s.aktiv === 0);
@@ -318,31 +331,32 @@ function abgleichen() {
         if (el.options.length !== s.zeilen.length || s.zeilen.some((z, i) => el.options[i].text !== z)) {
           el.replaceChildren(...s.zeilen.map((z) => new Option(z)));
         }
-        el.selectedIndex = s.index;
-        el.disabled = s.aktiv === 0;
+        if (el.selectedIndex !== s.index) el.selectedIndex = s.index;
+        if (el.disabled !== (s.aktiv === 0)) el.disabled = s.aktiv === 0;
       } else if (w.art === 'check') {
-        el._ein.checked = s.wert === 1;
-        el._ein.disabled = s.aktiv === 0;
+        if (el._ein.checked !== (s.wert === 1)) el._ein.checked = s.wert === 1;
+        if (el._ein.disabled !== (s.aktiv === 0)) el._ein.disabled = s.aktiv === 0;
       } else if (w.art === 'option') {
-        el._ein.checked = s.gesetzt === w.index;
-        el._ein.disabled = s.aktiv[w.index] === 0;
+        if (el._ein.checked !== (s.gesetzt === w.index)) el._ein.checked = s.gesetzt === w.index;
+        if (el._ein.disabled !== (s.aktiv[w.index] === 0)) el._ein.disabled = s.aktiv[w.index] === 0;
       } else {
         const leer = w.ergebnis && !gueltig;
-        if (!(w.entwurf && s.text === '')) el.textContent = leer ? '' : s.text;
+        if (!(w.entwurf && s.text === '')) text_setzen(el, leer ? '' : s.text);
         el.classList.toggle('grau', !!w.ergebnis && !gueltig);
         el.classList.toggle('verdeckt', s.verdeckt === 1);
         if (w.massstab) {
-          el.style.left = s.links / w.massstab + 'px';
-          el.style.top = s.oben / w.massstab + 'px';
+          stil(el, 'left', s.links / w.massstab + 'px');
+          stil(el, 'top', s.oben / w.massstab + 'px');
         }
       }
     }
   }
   ebenen_folgen(zustand.ebenen, gueltig);
   for (const [name, text] of Object.entries(zustand.felder)) {
-    for (const el of flaeche.querySelectorAll(`[data-feld="${name}"], [data-name="${name}"]`)) {
-      el.textContent = text;
+    if (!feldelemente.has(name)) {
+      feldelemente.set(name, [...flaeche.querySelectorAll(`[data-feld="${name}"], [data-name="${name}"]`)]);
     }
+    for (const el of feldelemente.get(name)) text_setzen(el, text);
   }
   klima_folgen(zustand.klima);
   for (const n of AUSGABEN) nach_name.get(n).classList.toggle('grau', !gueltig);
@@ -386,19 +400,20 @@ plz.addEventListener('keydown', (e) => {
 im_klima('Picture2').style.backgroundImage = 'url("Grafiken/europa.png")';
 im_klima('Picture3').style.backgroundImage = 'url("Grafiken/welt.png")';
 
+// What only the German scope shows: the map, the region list and the post code with captions.
+const deutsche_teile = [im_klima('Picture1'), im_klima('Klimaregionwahl'), plz, im_klima('PLZsuchen'),
+  elemente[layout.widgets.findIndex((w) => w.text?.d === 'Klimaregion')],
+  elemente[layout.widgets.findIndex((w) => w.text?.d === 'Postleitzahl')]].filter((e) => e);
+
 function klima_folgen(k) {
   for (let i = 1; i <= 3; ++i) im_klima(`Option${i}`)._ein.checked = k.auswahl === i;
   const deutschland = k.sichtbar === 1;
   const karte = im_klima('Picture1');
-  for (const el of [karte, im_klima('Klimaregionwahl'), plz, im_klima('PLZsuchen'),
-    elemente[layout.widgets.findIndex((w) => w.text?.d === 'Klimaregion')],
-    elemente[layout.widgets.findIndex((w) => w.text?.d === 'Postleitzahl')]]) {
-    if (el) el.hidden = !deutschland;
-  }
-  im_klima('Klimaregionwahl2').hidden = !(k.sichtbar === 2 || k.sichtbar === 3);
-  im_klima('Picture2').hidden = k.sichtbar !== 2;
-  for (const n of ['picture3f', 'HScroll1', 'Frame_Grafik']) im_klima(n).hidden = true;
-  if (k.sichtbar === 3) im_klima('picture3f').hidden = false;
+  for (const el of deutsche_teile) verbergen(el, !deutschland);
+  verbergen(im_klima('Klimaregionwahl2'), !(k.sichtbar === 2 || k.sichtbar === 3));
+  verbergen(im_klima('Picture2'), k.sichtbar !== 2);
+  for (const n of ['HScroll1', 'Frame_Grafik']) verbergen(im_klima(n), true);
+  verbergen(im_klima('picture3f'), k.sichtbar !== 3);
   const bild = k.Picture1.slice(k.Picture1.indexOf('/') + 1).replace(/\.bmp$/i, '.png');
   if (karte.dataset.bild !== bild) {
     karte.style.backgroundImage = `url("Grafiken/${bild}")`;
@@ -411,7 +426,7 @@ function klima_folgen(k) {
     }
     el.selectedIndex = s.index;
   }
-  if (document.activeElement !== plz) plz.value = k.plz;
+  if (document.activeElement !== plz && plz.value !== k.plz) plz.value = k.plz;
 }
 
 function modell_el(name) {
@@ -424,10 +439,10 @@ function modell_el(name) {
 function ebenen_folgen(e, gueltig) {
   for (let i = 0; i < 4; ++i) {
     const knopf = nach_name.get(`Command_HR(${i})`);
-    knopf.hidden = (e.Command_HR[i] & 1) === 0;
+    verbergen(knopf, (e.Command_HR[i] & 1) === 0);
     knopf.disabled = (e.Command_HR[i] & 2) === 0;
     const sb = modell_el(`E_Fenster.kfg_sb(${i})`);
-    if (sb) sb.parentElement.hidden = e.Frame_Visible[i] === 0;
+    if (sb) verbergen(sb.parentElement, e.Frame_Visible[i] === 0);
   }
   const frame3 = nach_name.get('Frame3');
   if (frame3) frame3.classList.toggle('aus', e.Frame3_Enabled === 0);
@@ -436,8 +451,8 @@ function ebenen_folgen(e, gueltig) {
   const h = modell_el('E_Geometrie.h_sb');
   if (h) {
     const versatz = haus ? parseFloat(haus.style.top) : 190;
-    h.style.top = versatz + e.h_sb_Top / 15 + 'px';
-    h.style.height = e.h_sb_Height / 15 + 'px';
+    stil(h, 'top', versatz + e.h_sb_Top / 15 + 'px');
+    stil(h, 'height', e.h_sb_Height / 15 + 'px');
   }
   if (haus) {
     const datei = e.Picture3.slice(e.Picture3.indexOf('/') + 1).replace(/\.bmp$/i, '.png');
@@ -451,23 +466,23 @@ function ebenen_folgen(e, gueltig) {
     const gewichte = [...traeg.children].filter((c) => c.classList.contains('flaeche'));
     const werte = [[e.Gewicht1_Top, e.Gewicht1_Height], [e.Gewicht2_Top, e.Gewicht2_Height]];
     gewichte.slice(0, 2).forEach((g, i) => {
-      g.style.top = werte[i][0] / 15 + 'px';
-      g.style.height = werte[i][1] / 15 + 'px';
-      g.hidden = !gueltig;
+      stil(g, 'top', werte[i][0] / 15 + 'px');
+      stil(g, 'height', werte[i][1] / 15 + 'px');
+      verbergen(g, !gueltig);
     });
   }
   const panel = nach_name.get('Frame_Auswahl');
   if (panel) {
-    panel.hidden = e.Frame_Auswahl_Visible === 0;
-    panel.style.left = e.Frame_Auswahl_Left / 15 + 'px';
-    panel.style.top = e.Frame_Auswahl_Top / 15 + 'px';
-    panel.style.height = e.Frame_Auswahl_Height / 15 + 'px';
+    verbergen(panel, e.Frame_Auswahl_Visible === 0);
+    stil(panel, 'left', e.Frame_Auswahl_Left / 15 + 'px');
+    stil(panel, 'top', e.Frame_Auswahl_Top / 15 + 'px');
+    stil(panel, 'height', e.Frame_Auswahl_Height / 15 + 'px');
     for (let i = 1; i <= 9; ++i) {
       const s = zustand.steuer[`E_Energie.Label_Auswahl(${i})`];
       const el = modell_el(`E_Energie.Label_Auswahl(${i})`);
       if (el && s) {
-        el.style.top = s.oben / 15 + 'px';
-        el.style.height = s.hoehe / 15 + 'px';
+        stil(el, 'top', s.oben / 15 + 'px');
+        stil(el, 'height', s.hoehe / 15 + 'px');
       }
     }
   }
@@ -701,6 +716,7 @@ ausgabe_zeigen(0);
 monat_waehlen(zustand.monat);
 if (!gestartet && zustand.fehler) window.alert(zustand.fehler);
 document.body.classList.add('bereit');
+performance.mark('velmaris-bereit');
 
 // For the browser tests and the benchmark: the program and the page's own steps.
 window.velmaris = { programm, handeln, abgleichen, eingabe_zeigen, ausgabe_zeigen, monat_waehlen, speichern, FS, geladen, zustand: () => zustand, gezeichnet };
