@@ -229,11 +229,13 @@ void Webprogramm::gezeigte_zeichnen() {
     switch (ausgabe_) {
     case Uebersicht:
         zeichnen(Flaeche::Monatsbilanz);
+        zeichnen(Flaeche::JahrBilanz_Uebersicht);
         zeichnen(Flaeche::UeberGrafik);
         zeichnen(Flaeche::Temperaturen);
         break;
     case Heizen:
         zeichnen(Flaeche::Heizbilanz);
+        zeichnen(Flaeche::JahrBilanz_Heizen);
         zeichnen(Flaeche::NutzungsgradMonat);
         zeichnen(Flaeche::Gewinne_N);
         heiz_felder_ = HeizFelderAusfuellen(p, einstellung_.dezimal);

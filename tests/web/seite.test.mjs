@@ -178,8 +178,8 @@ try {
     v.ausgabe_zeigen(1);
     const mittel_vorher = document.querySelector('[data-feld="anz_MittelJahrTemp"]').textContent;
     v.eingabe_zeigen(4);
-    const liste = document.querySelector('[data-name="E_Klima"] select[data-name="Klimaregionwahl"]');
-    liste.selectedIndex = 8;
+    const liste = document.querySelector('[data-name="E_Klima"] select[data-name="Klimaregionwahl2"]');
+    liste.selectedIndex = 3;
     liste.dispatchEvent(new Event('change'));
     v.ausgabe_zeigen(1);
     return {
