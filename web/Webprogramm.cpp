@@ -368,6 +368,28 @@ bool Webprogramm::klima(const std::string& was, int wert, const std::string& tex
     return false;
 }
 
+const Bitmap& Webprogramm::karte() {
+    const std::string& bild = ebenen_->klima.Picture1;
+    if (!karte_ || karte_name_ != bild) {
+        karte_ = std::make_unique<Bitmap>(bitmap_lesen("/" + bild));
+        karte_name_ = bild;
+    }
+    return *karte_;
+}
+
+bool Webprogramm::karte_klick(int x, int y) {
+    return ausfuehren([this, x, y] { Picture1_MouseDown(ebenen_->klima, p, karte(), x, y); });
+}
+
+std::string Webprogramm::karte_hover(int x, int y) {
+    // A map picture that cannot be read names nothing here; the press reports it.
+    try {
+        return Picture1_Hover(karte(), x, y);
+    } catch (const FatalError&) {
+        return std::string();
+    }
+}
+
 void Webprogramm::monat(int m) {
     if (m < 1 || m > 12) {
         return;

@@ -11,6 +11,7 @@
 #include "charts/Auffrischtabelle.h"
 #include "charts/Flaechen.h"
 #include "charts/Neuzeichnen.h"
+#include "climate/Bitmap.h"
 #include "planes/Eingabeflaechen.h"
 #include "project/Dialogs.h"
 #include "project/FILEIO.h"
@@ -73,6 +74,10 @@ public:
     // The climate plane: "Option" with the scope 1..3, "Klimaregionwahl" or "Klimaregionwahl2"
     // with the row chosen, "plz" with the post code typed and searched.
     bool klima(const std::string& was, int wert, const std::string& text);
+    // The German map: a press picks the region under the pixel (x, y) of the picture shown, the
+    // hover names it (empty outside the regions).
+    bool karte_klick(int x, int y);
+    std::string karte_hover(int x, int y);
     // A month button of the overview, 1..12.
     void monat(int m);
     // A plane's button: the plane comes up, its charts are drawn.
@@ -134,5 +139,8 @@ private:
     int ausgabe_ = Uebersicht;
     bool gueltig_ = true;
     std::string fehler_;
-    std::string klima_json_;
+    // The map picture shown, read again only when the picture changes.
+    const Bitmap& karte();
+    std::string karte_name_;
+    std::unique_ptr<Bitmap> karte_;
 };

@@ -88,6 +88,8 @@ public:
     bool klima(const std::string& was, int w, const std::string& t) {
         return programm_->klima(was, w, t);
     }
+    bool karte_klick(int x, int y) { return programm_->karte_klick(x, y); }
+    std::string karte_hover(int x, int y) { return programm_->karte_hover(x, y); }
     void monat(int m) { programm_->monat(m); }
     bool eingabe_zeigen(int e) { return programm_->eingabe_zeigen(e); }
     bool ausgabe_zeigen(int e) { return programm_->ausgabe_zeigen(e); }
@@ -144,6 +146,8 @@ EMSCRIPTEN_BINDINGS(velmaris) {
         .function("setzen", &Seitenprogramm::setzen)
         .function("klicken", &Seitenprogramm::klicken)
         .function("klima", &Seitenprogramm::klima)
+        .function("karte_klick", &Seitenprogramm::karte_klick)
+        .function("karte_hover", &Seitenprogramm::karte_hover)
         .function("monat", &Seitenprogramm::monat)
         .function("eingabe_zeigen", &Seitenprogramm::eingabe_zeigen)
         .function("ausgabe_zeigen", &Seitenprogramm::ausgabe_zeigen)

@@ -24,18 +24,20 @@ const FS = modul.FS;
 // once; afterwards a file is fetched from the server when the program reads it.
 FS.mkdir('/klima');
 FS.mkdir('/projekte');
+FS.mkdir('/Grafiken');
+for (let i = 0; i <= 12; ++i) bei_bedarf(`klima${i}.bmp`, 'Grafiken');
 for (const [datei, kopf] of Object.entries(stationen)) {
   FS.writeFile('/klima/' + datei, Uint8Array.from(kopf, (c) => c.charCodeAt(0) & 0xff));
 }
 
-function bei_bedarf(datei) {
-  FS.unlink('/klima/' + datei);
-  const knoten = FS.createFile('/klima', datei, null, true, true);
+function bei_bedarf(datei, ordner = 'klima') {
+  if (ordner === 'klima') FS.unlink('/klima/' + datei);
+  const knoten = FS.createFile('/' + ordner, datei, null, true, true);
   let daten = null;
   const laden = () => {
     if (daten === null) {
       const x = new XMLHttpRequest();
-      x.open('GET', 'klima/' + encodeURIComponent(datei), false);
+      x.open('GET', ordner + '/' + encodeURIComponent(datei), false);
       x.overrideMimeType('text/plain; charset=x-user-defined');
       x.send();
       const t = x.status === 200 ? x.responseText : '';
@@ -396,6 +398,26 @@ const plz_suchen = () => handeln(() => programm.klima('plz', 0, plz.value));
 im_klima('PLZsuchen').addEventListener('click', plz_suchen);
 plz.addEventListener('keydown', (e) => {
   if (e.key === 'Enter') plz_suchen();
+});
+// The German map: the region under the pointer is named beside it, a press picks it.
+const karte = im_klima('Picture1');
+const karte_punkt = (e) => {
+  const r = karte.getBoundingClientRect();
+  return [Math.floor((e.clientX - r.left) / skala()), Math.floor((e.clientY - r.top) / skala())];
+};
+const schwebe = im_klima('Label2');
+karte.addEventListener('mousemove', (e) => {
+  const [x, y] = karte_punkt(e);
+  const t = programm.karte_hover(x, y);
+  schwebe.hidden = t === '';
+  schwebe.textContent = t.replace(/\r\n?/g, '\n');
+  schwebe.style.left = x + 12 + 'px';
+  schwebe.style.top = y + 12 + 'px';
+});
+karte.addEventListener('mouseleave', () => { schwebe.hidden = true; });
+karte.addEventListener('mousedown', (e) => {
+  const [x, y] = karte_punkt(e);
+  handeln(() => programm.karte_klick(x, y));
 });
 im_klima('Picture2').style.backgroundImage = 'url("Grafiken/europa.png")';
 im_klima('Picture3').style.backgroundImage = 'url("Grafiken/welt.png")';

@@ -60,6 +60,9 @@ def main():
     grafiken = ziel / "Grafiken"
     grafiken.mkdir(exist_ok=True)
     for bmp in sorted((quelle / "Grafiken").glob("*.bmp")):
+        # The program reads the German maps' colours itself, when the user points at one.
+        if bmp.stem.startswith("klima"):
+            shutil.copy2(bmp, grafiken / bmp.name)
         png = grafiken / (bmp.stem + ".png")
         if not png.exists() or png.stat().st_mtime < bmp.stat().st_mtime:
             png_schreiben(png, *bmp_lesen(bmp))

@@ -192,6 +192,30 @@ try {
   pruefen(station.neu.length === 1 && /\d/.test(station.mittel) && station.mittel !== station.mittel_vorher,
     `a station is fetched when chosen (${station.neu}) and its year mean ${station.mittel} (before ${station.mittel_vorher}) shows for ${station.region}`);
 
+  // Germany: the map names the region under the pointer, and a press picks it.
+  const karte = await seite.evaluate(() => {
+    const v = window.velmaris;
+    document.querySelector('[data-name="E_Klima"] [data-name="Option1"] input').click();
+    const bild = document.querySelector('[data-name="E_Klima"] [data-name="Picture1"]');
+    const r = bild.getBoundingClientRect();
+    const s = r.width / parseFloat(bild.style.width);
+    for (let y = 300; y > 0; y -= 7) {
+      for (let x = 10; x < 230; x += 7) {
+        const name = v.programm.karte_hover(x, y);
+        if (name) {
+          const vorher = v.zustand().titel + '|' + document.querySelector('[data-feld="anz_klimaregion"]').textContent;
+          bild.dispatchEvent(new MouseEvent('mousedown', { clientX: r.left + (x + 0.5) * s, clientY: r.top + (y + 0.5) * s, bubbles: true }));
+          return { name, region: document.querySelector('[data-feld="anz_klimaregion"]').textContent, vorher };
+        }
+      }
+    }
+    return null;
+  });
+  const nummer = karte?.name.match(/(\d+)/)?.[1];
+  pruefen(karte !== null && nummer !== undefined && new RegExp(`Region\\s+${nummer}:`).test(karte.region) &&
+    !karte.vorher.endsWith(karte.region),
+    `the German map names a region (${karte?.name}) and a press picks it: ${karte?.region}`);
+
   // The language switch: the page comes back in English, and stays so.
   await seite.evaluate(() => document.querySelector('[data-name="mnuSpracheEnglisch"]').click());
   await seite.waitForSelector('body.bereit', { timeout: 20000 });
