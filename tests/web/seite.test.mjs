@@ -161,6 +161,28 @@ try {
       `${feld}: ${anders} of ${balken} bar pixels differ from the desktop's picture`);
   }
 
+  // The tooltip of January's bar in the monthly balance, after the pointer rests on it.
+  const balken = await seite.evaluate(() => {
+    const c = document.querySelector('canvas[data-feld="Monatsbilanz"]');
+    const d = c.getContext('2d').getImageData(0, 0, c.width, c.height).data;
+    const s = c.width / c.dataset.breite;
+    for (let x = 0; x < c.dataset.breite / 4; ++x) {
+      for (let y = 0; y < c.dataset.hoehe; ++y) {
+        const k = (Math.floor(y * s) * c.width + Math.floor(x * s)) * 4;
+        if (d[k] > 200 && d[k + 1] < 60 && d[k + 2] < 60) {
+          const r = c.getBoundingClientRect();
+          return { x: r.left + (x + 0.5) * r.width / c.dataset.breite, y: r.top + (y + 0.5) * r.height / c.dataset.hoehe };
+        }
+      }
+    }
+    return null;
+  });
+  await seite.mouse.move(balken.x, balken.y);
+  await seite.waitForSelector('#tooltip:not([hidden])', { timeout: 3000 }).catch(() => null);
+  const tip = await seite.$eval('#tooltip', (t) => (t.hidden ? '' : t.textContent));
+  pruefen(/Jan/.test(tip) && /\d/.test(tip), `a bar's tooltip names its month and value: ${tip.replace(/\n/g, ' | ')}`);
+  await seite.mouse.move(0, 0);
+
   // A project from the disk opens, and its download has the bytes the desktop writes.
   const projekt = join(ordner, 'nativ.vel');
   spawnSync(nativ, ['save', projekt]);
