@@ -356,11 +356,20 @@ function abgleichen() {
   ebenen_folgen(zustand.ebenen, gueltig);
   for (const [name, text] of Object.entries(zustand.felder)) {
     if (!feldelemente.has(name)) {
-      feldelemente.set(name, [...flaeche.querySelectorAll(`[data-feld="${name}"], [data-name="${name}"]`)]);
+      // "E_Energie/Label8" names a control of one plane only.
+      const [ebene, n] = name.includes('/') ? name.split('/') : [null, name];
+      const wo = ebene ? nach_name.get(ebene) : flaeche;
+      feldelemente.set(name, [...wo.querySelectorAll(`[data-feld="${n}"], [data-name="${n}"]`)]);
     }
     for (const el of feldelemente.get(name)) text_setzen(el, text);
   }
   klima_folgen(zustand.klima);
+  // Electricity as the carrier has a single primary energy line.
+  const energie = nach_name.get('E_Energie');
+  for (const n of ['Label14', 'anz_q_PE_Strom', 'Label34', 'anz_Primärenergiefaktor_Strom']) {
+    const el = energie.querySelector(`[data-name="${n}"]`);
+    if (el) verbergen(el, zustand.felder.strom === 1);
+  }
   for (const n of AUSGABEN) nach_name.get(n).classList.toggle('grau', !gueltig);
   for (const [feld, { el }] of diagramme) {
     const fassung = zustand.diagramme[feld];
