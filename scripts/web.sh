@@ -7,9 +7,10 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-pakete=(emscripten node-acorn cmake ninja-build python3 fonts-liberation chromium npm)
+pakete=(emscripten node-acorn cmake ninja-build python3 fonts-liberation chromium)
 # A newer Node.js than Debian's may stand in for the nodejs package.
 command -v node >/dev/null || pakete+=(nodejs)
+command -v npm >/dev/null || pakete+=(npm)
 fehlend=()
 for p in "${pakete[@]}"; do
     if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
