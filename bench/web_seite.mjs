@@ -37,6 +37,16 @@ const browser = await puppeteer.launch({ executablePath: '/usr/bin/chromium', he
 try {
   const seite = await browser.newPage();
   await seite.setViewport({ width: 1366, height: 768 });
+  // The server may take a moment to listen.
+  for (let versuch = 0; ; ++versuch) {
+    try {
+      await seite.goto(`http://127.0.0.1:${port}/`, { waitUntil: 'load' });
+      break;
+    } catch (e) {
+      if (versuch > 20) throw e;
+      await new Promise((r) => setTimeout(r, 250));
+    }
+  }
   const starts = [];
   for (let i = 0; i < 5; ++i) {
     await seite.goto(`http://127.0.0.1:${port}/`, { waitUntil: 'load' });
