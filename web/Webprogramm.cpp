@@ -18,6 +18,22 @@
 #include "report/Temperaturverlauf.h"
 #include "ui/Rechenlauf.h"
 
+#include <stdexcept>
+
+namespace {
+
+// Whether the group has the option `index`; the group tells its range only by a fault.
+bool hat_option(const OptionGroup& g, int index) {
+    try {
+        static_cast<void>(g.Value(index));
+        return true;
+    } catch (const std::out_of_range&) {
+        return false;
+    }
+}
+
+} // namespace
+
 Dialogs::Antwort Seitendialoge::nachricht(const std::string& text, const std::string& t, Symbol,
                                           Knoepfe knoepfe, bool) {
     if (frage) {
@@ -307,6 +323,9 @@ bool Webprogramm::setzen(const std::string& name, int wert) {
     case Steuerelement::Art::Check:
         return ausfuehren([m, wert] { static_cast<CheckField*>(m)->setze(wert != 0 ? 1 : 0); });
     case Steuerelement::Art::Option:
+        if (!hat_option(*static_cast<OptionGroup*>(m), wert)) {
+            return false;
+        }
         return ausfuehren([m, wert] { static_cast<OptionGroup*>(m)->setzen(wert); });
     case Steuerelement::Art::Label:
         break;
@@ -585,13 +604,7 @@ std::string Webprogramm::zustand() const {
             j.key("aktiv");
             j.begin_array();
             for (int i = 0; i < 4; ++i) {
-                int a = -1;
-                try {
-                    a = f->Enabled(i) ? 1 : 0;
-                } catch (const std::out_of_range&) {
-                    a = -1;
-                }
-                j.value(a);
+                j.value(hat_option(*f, i) ? (f->Enabled(i) ? 1 : 0) : -1);
             }
             j.end_array();
             break;
