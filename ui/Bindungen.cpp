@@ -33,6 +33,13 @@ void aktiv_setzen(QWidget& w, bool aktiv) {
     }
 }
 
+void melden(const QWidget& w, const void* modell, int index = 0,
+            Bindungen::Art art = Bindungen::Art::Text, int massstab = 0) {
+    if (Bindungen::gebunden) {
+        Bindungen::gebunden({&w, modell, index, art, massstab});
+    }
+}
+
 } // namespace
 
 Bindungen::Bindungen(std::function<void(const std::string&)> fehler, std::function<void()> nachher,
@@ -88,6 +95,7 @@ void Bindungen::folgen(std::function<void()> abgleich) {
 }
 
 void Bindungen::scroll(QScrollBar& sb, ScrollField& feld) {
+    melden(sb, &feld);
     abgleiche_.push_back([&sb, &feld] {
         const QSignalBlocker sperre(sb);
         if (sb.minimum() != feld.Min || sb.maximum() != feld.Max) {
@@ -148,6 +156,7 @@ void Bindungen::scroll(QScrollBar& sb, ScrollField& feld) {
 }
 
 void Bindungen::liste(QComboBox& cb, ListField& feld) {
+    melden(cb, &feld);
     abgleiche_.push_back([&cb, &feld] {
         const QSignalBlocker sperre(cb);
         bool gleich = cb.count() == static_cast<int>(feld.Eintraege.size());
@@ -171,6 +180,7 @@ void Bindungen::liste(QComboBox& cb, ListField& feld) {
 }
 
 void Bindungen::check(QCheckBox& cb, CheckField& feld) {
+    melden(cb, &feld);
     abgleiche_.push_back([&cb, &feld] {
         const QSignalBlocker sperre(cb);
         if (cb.isChecked() != (feld.Value() == 1)) {
@@ -184,6 +194,7 @@ void Bindungen::check(QCheckBox& cb, CheckField& feld) {
 }
 
 void Bindungen::option(QRadioButton& rb, OptionGroup& gruppe, int index) {
+    melden(rb, &gruppe, index);
     // The group decides which option is set; Qt's own exclusivity would fight it.
     rb.setAutoExclusive(false);
     abgleiche_.push_back([&rb, &gruppe, index] {
@@ -199,6 +210,7 @@ void Bindungen::option(QRadioButton& rb, OptionGroup& gruppe, int index) {
 }
 
 void Bindungen::label(QLabel& l, const Label& modell, Art art, int massstab) {
+    melden(l, &modell, 0, art, massstab);
     const QPalette normal = l.palette();
     abgleiche_.push_back([this, &l, &modell, art, massstab, normal] {
         const bool leer = art == Art::Ergebnis && !gueltig_;

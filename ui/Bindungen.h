@@ -53,6 +53,18 @@ public:
     // divided by it (15 for twips, 1 for pixels). A label in its background colour hides its
     // text.
     void label(QLabel& l, const Label& modell, Art art = Art::Text, int massstab = 0);
+    // One binding as made: the widget, the model it follows, the option's index and, for a
+    // label, how it shows its text and the scale of its place.
+    struct Bindung {
+        const QWidget* widget;
+        const void* modell;
+        int index;
+        Art art;
+        int massstab;
+    };
+    // Told of every binding when set; a tool that writes the planes' layout for another
+    // front-end names the controls by their models through it.
+    static inline std::function<void(const Bindung&)> gebunden;
     // Any other state of a widget that follows its model, run at each update.
     void folgen(std::function<void()> abgleich);
 

@@ -1,0 +1,762 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "web/Webprogramm.h"
+
+#include "app/cli/JsonWriter.h"
+#include "app/cli/ergebnis_json.h"
+#include "charts/A_Heizen.h"
+#include "charts/Neuzeichnen.h"
+#include "charts/Tooltiptexte.h"
+#include "climate/E_Klima.h"
+#include "climate/klimainfo_texte.h"
+#include "energy/energie.h"
+#include "language/c_Sprache.h"
+#include "planes/Zahlformat.h"
+#include "project/FatalError.h"
+#include "project/Laufzeitfehler.h"
+#include "project/c_glob.h"
+#include "report/Report.h"
+#include "report/Temperaturverlauf.h"
+#include "ui/Rechenlauf.h"
+
+#include <stdexcept>
+
+namespace {
+
+// Whether the group has the option `index`; the group tells its range only by a fault.
+bool hat_option(const OptionGroup& g, int index) {
+    try {
+        static_cast<void>(g.Value(index));
+        return true;
+    } catch (const std::out_of_range&) {
+        return false;
+    }
+}
+
+} // namespace
+
+Dialogs::Antwort Seitendialoge::nachricht(const std::string& text, const std::string& t, Symbol,
+                                          Knoepfe knoepfe, bool) {
+    if (frage) {
+        return frage(text, t, knoepfe);
+    }
+    return knoepfe == Knoepfe::OK ? Antwort::OK : Antwort::Abbrechen;
+}
+
+std::optional<std::string> Seitendialoge::oeffnen_dialog(const std::string&, int,
+                                                         const std::string&) {
+    std::optional<std::string> pfad;
+    pfad.swap(oeffnen_pfad);
+    return pfad;
+}
+
+std::optional<std::string> Seitendialoge::speichern_dialog(const std::string&, int,
+                                                           const std::string&) {
+    std::optional<std::string> pfad;
+    pfad.swap(speichern_pfad);
+    return pfad;
+}
+
+Webprogramm::Webprogramm(const std::string& sprache, const std::string& klima,
+                         CanvasFlaeche::Textmass breite, CanvasFlaeche::Textmass hoehe,
+                         Seitendialoge& dialoge)
+    : p(projekt()), dialoge_(dialoge) {
+    p.KlimaOrdner = klima;
+    p.Gestartet = 0;
+    sprache_beim_start(p, sprache == "e" ? "e" : "d", [] { return std::string(); });
+    einstellung_.Sprache = p.Sprache;
+    einstellung_.dezimal = p.Sprache == "e" ? '.' : ',';
+    ebenen_ = std::make_unique<Eingabeflaechen>(p, einstellung_.dezimal);
+    io_ = std::make_unique<FILEIO>(p, *ebenen_, dialoge_);
+    for (Steuerelement& s : steuerelemente(*ebenen_)) {
+        steuer_.emplace(s.name, s);
+    }
+
+    breite_ = std::move(breite);
+    hoehe_ = std::move(hoehe);
+}
+
+Webprogramm::~Webprogramm() {
+    // The refresh table gives the observer back to the planes before they go.
+    auffrischen_.reset();
+    rechenlauf_.reset();
+    io_.reset();
+    ebenen_.reset();
+}
+
+void Webprogramm::flaeche_anlegen(const std::string& feld, int breite, int hoehe, Rgb hintergrund) {
+    flaechen_[feld] = std::make_unique<CanvasFlaeche>(breite, hoehe, hintergrund, breite_, hoehe_);
+}
+
+CanvasFlaeche* Webprogramm::flaeche(const std::string& feld) {
+    const auto f = flaechen_.find(feld);
+    return f == flaechen_.end() ? nullptr : f->second.get();
+}
+
+bool Webprogramm::starten() {
+    for (const char* n : {"AV_Picture",
+                          "Picture1",
+                          "Monatsbilanz",
+                          "JahrBilanz_Uebersicht",
+                          "UeberGrafik",
+                          "UeberJahr",
+                          "Temperaturen",
+                          "Heizbilanz",
+                          "JahrBilanz_Heizen",
+                          "NutzungsgradMonat",
+                          "NutzungsgradJahr",
+                          "Gewinne_N",
+                          "Verluste_N",
+                          "Gewinne_S",
+                          "Verluste_S",
+                          "Gewinne_O",
+                          "Verluste_O",
+                          "Gewinne_W",
+                          "Verluste_W",
+                          "StundenProTagMonat",
+                          "StundenProTagJahr",
+                          "KuehlbedarfMonat",
+                          "KuehlbedarfJahr",
+                          "KuehlGradStundenMonat",
+                          "KuehlGradStundenJahr",
+                          "Sankey",
+                          "Sankey_Kuehlen",
+                          "Monatsuebersicht",
+                          "Picture2",
+                          "Picture3"}) {
+        if (flaeche(n) == nullptr) {
+            fehler_ = std::string("the page has no chart ") + n;
+            return false;
+        }
+    }
+    auto f = [this](const char* n) -> Surface& { return *flaeche(n); };
+    geometrie_ =
+        std::make_unique<GeometrieFlaechen>(GeometrieFlaechen{f("AV_Picture"), f("Picture1")});
+    uebersicht_ = std::make_unique<UebersichtFlaechen>(
+        UebersichtFlaechen{f("Temperaturen"), f("Monatsbilanz"), f("JahrBilanz_Uebersicht"),
+                           f("UeberGrafik"), f("UeberJahr")});
+    heizen_ = std::make_unique<HeizenFlaechen>(HeizenFlaechen{
+        f("Heizbilanz"), f("JahrBilanz_Heizen"), f("NutzungsgradMonat"), f("NutzungsgradJahr"),
+        f("Gewinne_N"), f("Verluste_N"), f("Gewinne_S"), f("Verluste_S"), f("Gewinne_O"),
+        f("Verluste_O"), f("Gewinne_W"), f("Verluste_W"), heiz_felder_});
+    kuehlen_ = std::make_unique<KuehlenFlaechen>(KuehlenFlaechen{
+        f("StundenProTagMonat"), f("StundenProTagJahr"), f("KuehlbedarfMonat"),
+        f("KuehlbedarfJahr"), f("KuehlGradStundenMonat"), f("KuehlGradStundenJahr")});
+    sankey_ = std::make_unique<SankeyFlaechen>(SankeyFlaechen{f("Sankey"), f("Sankey_Kuehlen")});
+    energie_ = std::make_unique<EnergieFlaechen>(
+        EnergieFlaechen{f("Monatsuebersicht"), f("Picture2"), f("Picture3")});
+    for (const auto& [name, flaeche] : flaechen_) {
+        flaeche->Cls();
+    }
+    rechenlauf_ = std::make_unique<Rechenlauf>(p, ebenen_.get());
+    auffrischen_ = std::make_unique<Auffrischtabelle>(
+        p, ergebnisebenen(),
+        [this](Ebene e) {
+            switch (e) {
+            case Ebene::Geometrie:
+                return eingabe_ == Geometrie;
+            case Ebene::Energie:
+                return eingabe_ == Energie;
+            case Ebene::Uebersicht:
+                return ausgabe_ == Uebersicht;
+            case Ebene::Heizen:
+                return ausgabe_ == Heizen;
+            case Ebene::Kuehlen:
+                return ausgabe_ == Kuehlen;
+            case Ebene::Sankey:
+                return ausgabe_ == Sankey;
+            case Ebene::KlimaGebaeude:
+                return ausgabe_ == KlimaGebaeude;
+            }
+            return false;
+        },
+        einstellung_, rechenlauf_.get());
+    ebenen_->geometrie.Visible = true;
+    const bool gut = ausfuehren([this] { io_->start(std::string(), "/", "/"); });
+    p.Gestartet = 1;
+    gezeigte_zeichnen();
+    return gut;
+}
+
+Ergebnisebenen Webprogramm::ergebnisebenen() {
+    Ergebnisebenen x;
+    x.geometrie = geometrie_.get();
+    x.uebersicht = uebersicht_.get();
+    x.heizen = heizen_.get();
+    x.kuehlen = kuehlen_.get();
+    x.sankey = sankey_.get();
+    x.energie = energie_.get();
+    return x;
+}
+
+bool Webprogramm::ausfuehren(const std::function<void()>& aktion) {
+    bool fehlerfrei = true;
+    try {
+        aktion();
+    } catch (const FatalError& f) {
+        fehlerfrei = false;
+        fehler_ = f.text(p.Sprache);
+    } catch (const Laufzeitfehler& f) {
+        fehlerfrei = false;
+        fehler_ = f.what();
+    }
+    // As on the desktop: the results stand after a run that reached its end, fall with a fault
+    // or a stopped run, and otherwise stay as they stood.
+    const Rechenlauf::Stand lauf = rechenlauf_ ? rechenlauf_->abholen() : Rechenlauf::Stand::Keiner;
+    if (!fehlerfrei || lauf == Rechenlauf::Stand::Abgebrochen || p.FormLoadGuard != 0) {
+        gueltig_ = false;
+    } else if (lauf == Rechenlauf::Stand::Fertig) {
+        gueltig_ = true;
+    }
+    if (gueltig_) {
+        fehler_.clear();
+        nach_aktion();
+    }
+    return fehlerfrei;
+}
+
+void Webprogramm::nach_aktion() {
+    if (eingabe_ == Geometrie) {
+        zeichnen(Flaeche::Picture1);
+    }
+    if (ausgabe_ == Heizen) {
+        heiz_felder_ = HeizFelderAusfuellen(p, einstellung_.dezimal);
+    }
+}
+
+void Webprogramm::zeichnen(Flaeche f) {
+    Ergebnisebenen x = ergebnisebenen();
+    neu_zeichnen(f, p, x, einstellung_);
+}
+
+void Webprogramm::gezeigte_zeichnen() {
+    if (!gueltig_) {
+        return;
+    }
+    switch (eingabe_) {
+    case Geometrie:
+        zeichnen(Flaeche::AV_Picture);
+        zeichnen(Flaeche::Picture1);
+        break;
+    case Energie:
+        zeichnen(Flaeche::Monatsuebersicht);
+        zeichnen(Flaeche::Picture2);
+        break;
+    default:
+        break;
+    }
+    switch (ausgabe_) {
+    case Uebersicht:
+        zeichnen(Flaeche::Monatsbilanz);
+        zeichnen(Flaeche::JahrBilanz_Uebersicht);
+        zeichnen(Flaeche::UeberGrafik);
+        zeichnen(Flaeche::Temperaturen);
+        break;
+    case Heizen:
+        zeichnen(Flaeche::Heizbilanz);
+        zeichnen(Flaeche::JahrBilanz_Heizen);
+        zeichnen(Flaeche::NutzungsgradMonat);
+        zeichnen(Flaeche::Gewinne_N);
+        heiz_felder_ = HeizFelderAusfuellen(p, einstellung_.dezimal);
+        break;
+    case Kuehlen:
+        zeichnen(Flaeche::StundenProTagMonat);
+        zeichnen(Flaeche::KuehlbedarfMonat);
+        zeichnen(Flaeche::KuehlGradStundenMonat);
+        break;
+    case Sankey:
+        zeichnen(Flaeche::Sankey);
+        zeichnen(Flaeche::Sankey_Kuehlen);
+        break;
+    default:
+        break;
+    }
+}
+
+bool Webprogramm::pfeil(const std::string& name, int richtung) {
+    const auto s = steuer_.find(name);
+    if (s == steuer_.end() || s->second.art != Steuerelement::Art::Scroll) {
+        return false;
+    }
+    auto* feld = static_cast<ScrollField*>(s->second.modell);
+    // The window plane's type logic asks which field the user works on.
+    if (name.rfind("E_Fenster.", 0) == 0) {
+        ebenen_->fenster.Fokus = feld;
+    }
+    return ausfuehren([feld, richtung] { feld->pfeil(richtung); });
+}
+
+bool Webprogramm::seite(const std::string& name, int richtung) {
+    const auto s = steuer_.find(name);
+    if (s == steuer_.end() || s->second.art != Steuerelement::Art::Scroll) {
+        return false;
+    }
+    auto* feld = static_cast<ScrollField*>(s->second.modell);
+    if (name.rfind("E_Fenster.", 0) == 0) {
+        ebenen_->fenster.Fokus = feld;
+    }
+    return ausfuehren([feld, richtung] { feld->seite(richtung); });
+}
+
+bool Webprogramm::setzen(const std::string& name, int wert) {
+    const auto s = steuer_.find(name);
+    if (s == steuer_.end()) {
+        return false;
+    }
+    void* m = s->second.modell;
+    const bool fenster = name.rfind("E_Fenster.", 0) == 0;
+    switch (s->second.art) {
+    case Steuerelement::Art::Scroll: {
+        auto* feld = static_cast<ScrollField*>(m);
+        if (fenster) {
+            ebenen_->fenster.Fokus = feld;
+        }
+        if (wert == feld->Value()) {
+            return true;
+        }
+        return ausfuehren([feld, wert] { feld->setze(wert); });
+    }
+    case Steuerelement::Art::Liste:
+        if (fenster) {
+            ebenen_->fenster.Fokus = nullptr;
+        }
+        return ausfuehren([m, wert] { static_cast<ListField*>(m)->setze_index(wert); });
+    case Steuerelement::Art::Check:
+        return ausfuehren([m, wert] { static_cast<CheckField*>(m)->setze(wert != 0 ? 1 : 0); });
+    case Steuerelement::Art::Option:
+        if (!hat_option(*static_cast<OptionGroup*>(m), wert)) {
+            return false;
+        }
+        return ausfuehren([m, wert] { static_cast<OptionGroup*>(m)->setzen(wert); });
+    case Steuerelement::Art::Label:
+        break;
+    }
+    return false;
+}
+
+bool Webprogramm::klicken(const std::string& name) {
+    E_Fenster& f = ebenen_->fenster;
+    E_Energie& g = ebenen_->energie;
+    for (int i = 0; i < 4; ++i) {
+        if (name == "Command_HR(" + std::to_string(i) + ")") {
+            return ausfuehren([&f, i] { f.Command_HR_Click(i); });
+        }
+    }
+    for (int i = 1; i <= 9; ++i) {
+        if (name == "Label_Auswahl(" + std::to_string(i) + ")") {
+            return ausfuehren([&g, i] { g.Label_Auswahl_Click(i); });
+        }
+    }
+    if (name == "Command1") {
+        return ausfuehren([&g] { g.Command1_Click(); });
+    }
+    if (name == "Command2") {
+        return ausfuehren([&g] { g.Command2_Click(); });
+    }
+    if (name == "Command3") {
+        return ausfuehren([&g] { g.Command3_Click(); });
+    }
+    if (name == "Frame_Auswahl") {
+        return ausfuehren([&g] { g.Frame_Auswahl_Click(); });
+    }
+    return false;
+}
+
+bool Webprogramm::klima(const std::string& was, int wert, const std::string& text) {
+    E_Klima& k = ebenen_->klima;
+    if (was == "Option" && wert >= 1 && wert <= 3) {
+        using Handler = void (*)(E_Klima&, Projekt&, Dialogs&, bool);
+        const Handler h[3] = {Option1_Click, Option2_Click, Option3_Click};
+        return ausfuehren([this, &k, h = h[wert - 1]] { h(k, p, dialoge_, true); });
+    }
+    if (was == "Klimaregionwahl") {
+        return ausfuehren([this, &k, wert] {
+            k.Klimaregionwahl.waehlen(wert);
+            Klimaregionwahl_Click(k, p);
+        });
+    }
+    if (was == "Klimaregionwahl2") {
+        return ausfuehren([this, &k, wert] {
+            k.Klimaregionwahl2.waehlen(wert);
+            Klimaregionwahl2_Click(k, p);
+        });
+    }
+    if (was == "plz") {
+        return ausfuehren([this, &k, &text] {
+            k.plz = text.substr(0, 5);
+            PLZsuchen_Click(k, p, dialoge_);
+        });
+    }
+    return false;
+}
+
+const Bitmap& Webprogramm::karte() {
+    const std::string& bild = ebenen_->klima.Picture1;
+    if (!karte_ || karte_name_ != bild) {
+        karte_ = std::make_unique<Bitmap>(bitmap_lesen("/" + bild));
+        karte_name_ = bild;
+    }
+    return *karte_;
+}
+
+bool Webprogramm::karte_klick(int x, int y) {
+    return ausfuehren([this, x, y] { Picture1_MouseDown(ebenen_->klima, p, karte(), x, y); });
+}
+
+std::string Webprogramm::karte_hover(int x, int y) {
+    // A map picture that cannot be read names nothing here; the press reports it.
+    try {
+        return Picture1_Hover(karte(), x, y);
+    } catch (const FatalError&) {
+        return std::string();
+    }
+}
+
+void Webprogramm::monat(int m) {
+    if (m < 1 || m > 12) {
+        return;
+    }
+    p.Monat_Uebersicht = static_cast<int16_t>(m);
+    if (gueltig_ && ausgabe_ == Uebersicht) {
+        zeichnen(Flaeche::Temperaturen);
+    }
+}
+
+bool Webprogramm::eingabe_zeigen(int ebene) {
+    eingabe_ = ebene;
+    ebenen_->geometrie.Visible = ebene == Geometrie;
+    ebenen_->fenster.Visible = ebene == Fenster;
+    // The geometry plane recalculates and draws its sketch anew when it comes up.
+    bool gut = true;
+    if (gueltig_ && ebene == Geometrie) {
+        gut = ausfuehren([this] { alles_berechnen(p); });
+    }
+    gezeigte_zeichnen();
+    return gut;
+}
+
+bool Webprogramm::ausgabe_zeigen(int ebene) {
+    ausgabe_ = ebene;
+    gezeigte_zeichnen();
+    return true;
+}
+
+bool Webprogramm::berechnen() {
+    return ausfuehren([this] { alles_berechnen(p); });
+}
+
+bool Webprogramm::neu() {
+    const bool gut = ausfuehren([this] { io_->datei_neu(); });
+    gezeigte_zeichnen();
+    return gut;
+}
+
+bool Webprogramm::oeffnen(const std::string& pfad) {
+    const bool gut = ausfuehren([this, &pfad] { io_->datei_oeffnen(pfad); });
+    gezeigte_zeichnen();
+    return gut;
+}
+
+std::string Webprogramm::speichern(bool unter, const std::string& pfad) {
+    bool gut = false;
+    if (unter) {
+        dialoge_.speichern_pfad = pfad;
+    }
+    ausfuehren([this, unter, &gut] {
+        gut = unter ? io_->datei_speichern_unter() : io_->datei_speichern();
+    });
+    dialoge_.speichern_pfad.reset();
+    return gut ? io_->offene_datei() : std::string();
+}
+
+std::string Webprogramm::tooltip(const std::string& feld, double x, double y) const {
+    const auto f = flaechen_.find(feld);
+    if (f == flaechen_.end() || !gueltig_) {
+        return std::string();
+    }
+    const Surface& s = *f->second;
+    const char dez = einstellung_.dezimal;
+    const std::string& sprache = einstellung_.Sprache;
+    if (feld == "Monatsuebersicht") {
+        const auto b = flaechen_.find("Picture2");
+        if (!auf_saeule_energie(s, *b->second, x, y)) {
+            return std::string();
+        }
+        const int m = tooltip_monat_energie(x);
+        return m == 0 ? std::string() : tooltip_Monatsverbrauch(p, m, sprache, dez);
+    }
+    if (!auf_balken(s, x, y)) {
+        return std::string();
+    }
+    const int m = tooltip_monat(x);
+    const UebersichtLegende u = uebersicht_legende(sprache);
+    const HeizenLegende h = heizen_legende(sprache);
+    const KuehlenLegende k = kuehlen_legende(sprache);
+    if (feld == "JahrBilanz_Uebersicht") {
+        return tooltip_JahrBilanz_Uebersicht(p, u, dez);
+    }
+    if (feld == "UeberJahr") {
+        return tooltip_UeberJahr(p, u, sprache, dez);
+    }
+    if (feld == "JahrBilanz_Heizen") {
+        return tooltip_JahrBilanz_Heizen(p, h, dez);
+    }
+    if (feld == "NutzungsgradJahr") {
+        return tooltip_NutzungsgradJahr(p, h, dez);
+    }
+    if (feld == "StundenProTagJahr") {
+        return tooltip_StundenProTagJahr(p, sprache, dez);
+    }
+    if (feld == "KuehlbedarfJahr") {
+        return tooltip_KuehlbedarfJahr(p, k, dez);
+    }
+    if (feld == "KuehlGradStundenJahr") {
+        return tooltip_KuehlGradStundenJahr(p, k, sprache, dez);
+    }
+    if (m == 0) {
+        return std::string();
+    }
+    if (feld == "Monatsbilanz") {
+        return tooltip_Monatsbilanz(p, m, u, dez);
+    }
+    if (feld == "UeberGrafik") {
+        return tooltip_UeberGrafik(p, m, u, dez);
+    }
+    if (feld == "Heizbilanz") {
+        return tooltip_Heizbilanz(p, m, h, dez);
+    }
+    if (feld == "NutzungsgradMonat") {
+        return tooltip_NutzungsgradMonat(p, m, h, dez);
+    }
+    if (feld == "StundenProTagMonat") {
+        return tooltip_StundenProTagMonat(p, m, sprache, dez);
+    }
+    if (feld == "KuehlbedarfMonat") {
+        return tooltip_KuehlbedarfMonat(p, m, k, dez);
+    }
+    if (feld == "KuehlGradStundenMonat") {
+        return tooltip_KuehlGradStundenMonat(p, m, k, dez);
+    }
+    return std::string();
+}
+
+std::string Webprogramm::ergebnis() const {
+    return ergebnis_json(p, false);
+}
+
+std::string
+Webprogramm::report(const std::function<double(const std::string&)>& times_breite) const {
+    const Reportquelle q{p, *ebenen_, einstellung_.dezimal, times_breite};
+    return report_der_sprache(q, 0);
+}
+
+std::string Webprogramm::temperaturen() const {
+    return temperaturverlauf_jahrestext(p, einstellung_.dezimal);
+}
+
+std::string Webprogramm::zustand() const {
+    JsonWriter j;
+    j.begin_object();
+    j.field("gueltig", gueltig_ ? 1 : 0);
+    j.field("fehler", fehler_);
+    j.field("titel", dialoge_.titel);
+    j.field("geaendert", static_cast<int>(p.Geaendert));
+    j.field("monat", static_cast<int>(p.Monat_Uebersicht));
+    j.key("steuer");
+    j.begin_object();
+    for (const auto& [name, s] : steuer_) {
+        j.key(name);
+        j.begin_object();
+        switch (s.art) {
+        case Steuerelement::Art::Scroll: {
+            const auto* f = static_cast<const ScrollField*>(s.modell);
+            j.field("wert", static_cast<int>(f->Value()));
+            j.field("min", static_cast<int>(f->Min));
+            j.field("max", static_cast<int>(f->Max));
+            j.field("klein", static_cast<int>(f->SmallChange));
+            j.field("gross", static_cast<int>(f->LargeChange));
+            j.field("aktiv", f->Enabled ? 1 : 0);
+            j.field("sichtbar", f->Visible ? 1 : 0);
+            break;
+        }
+        case Steuerelement::Art::Liste: {
+            const auto* f = static_cast<const ListField*>(s.modell);
+            j.key("zeilen");
+            j.begin_array();
+            for (const std::string& e : f->Eintraege) {
+                j.value(e);
+            }
+            j.end_array();
+            j.field("index", f->ListIndex());
+            j.field("aktiv", f->Enabled ? 1 : 0);
+            j.field("sichtbar", f->Visible ? 1 : 0);
+            break;
+        }
+        case Steuerelement::Art::Check: {
+            const auto* f = static_cast<const CheckField*>(s.modell);
+            j.field("wert", f->Value());
+            j.field("aktiv", f->Enabled ? 1 : 0);
+            j.field("sichtbar", f->Visible ? 1 : 0);
+            break;
+        }
+        case Steuerelement::Art::Option: {
+            const auto* f = static_cast<const OptionGroup*>(s.modell);
+            j.field("gesetzt", f->gesetzt());
+            j.key("aktiv");
+            j.begin_array();
+            for (int i = 0; i < 4; ++i) {
+                j.value(hat_option(*f, i) ? (f->Enabled(i) ? 1 : 0) : -1);
+            }
+            j.end_array();
+            break;
+        }
+        case Steuerelement::Art::Label: {
+            const auto* f = static_cast<const Label*>(s.modell);
+            j.field("text", f->Caption);
+            j.field("sichtbar", f->Visible ? 1 : 0);
+            j.field("links", f->Left);
+            j.field("oben", f->Top);
+            j.field("hoehe", f->Height);
+            j.field("verdeckt", f->ForeColor == Label::Farbe::Hintergrund ? 1 : 0);
+            break;
+        }
+        }
+        j.end_object();
+    }
+    j.end_object();
+
+    // The state of the planes that the desktop's builders follow by hand.
+    const E_Geometrie& g = ebenen_->geometrie;
+    const E_Fenster& f = ebenen_->fenster;
+    const E_Gebaeude& b = ebenen_->gebaeude;
+    const E_Energie& e = ebenen_->energie;
+    j.key("ebenen");
+    j.begin_object();
+    j.field("Frame3_Enabled", g.Frame3_Enabled ? 1 : 0);
+    j.field("h_sb_Top", g.h_sb_Top);
+    j.field("h_sb_Height", g.h_sb_Height);
+    j.field("Picture3", g.Picture3);
+    j.field("av_balken_y", g.av_balken_y);
+    j.key("Command_HR");
+    j.begin_array();
+    for (const auto& k : f.Command_HR) {
+        j.value((k.Visible ? 1 : 0) + (k.Enabled ? 2 : 0));
+    }
+    j.end_array();
+    j.key("Frame_Visible");
+    j.begin_array();
+    for (bool v : f.Frame_Visible) {
+        j.value(v ? 1 : 0);
+    }
+    j.end_array();
+    j.field("Gewicht1_Top", b.Gewicht1_Top);
+    j.field("Gewicht1_Height", b.Gewicht1_Height);
+    j.field("Gewicht2_Top", b.Gewicht2_Top);
+    j.field("Gewicht2_Height", b.Gewicht2_Height);
+    j.field("Frame_Auswahl_Visible", e.Frame_Auswahl_Visible ? 1 : 0);
+    j.field("Frame_Auswahl_Left", e.Frame_Auswahl_Left);
+    j.field("Frame_Auswahl_Top", e.Frame_Auswahl_Top);
+    j.field("Frame_Auswahl_Height", e.Frame_Auswahl_Height);
+    j.end_object();
+
+    const E_Klima& k = ebenen_->klima;
+    j.key("klima");
+    j.begin_object();
+    j.field("auswahl", static_cast<int>(p.Klimaauswahl));
+    j.field("sichtbar", k.sichtbar);
+    j.field("Picture1", k.Picture1);
+    j.field("plz", k.plz);
+    for (const auto& [n, l] : std::initializer_list<std::pair<const char*, const Klimaliste*>>{
+             {"Klimaregionwahl", &k.Klimaregionwahl}, {"Klimaregionwahl2", &k.Klimaregionwahl2}}) {
+        j.key(n);
+        j.begin_object();
+        j.key("zeilen");
+        j.begin_array();
+        for (const std::string& e : l->Eintraege) {
+            j.value(e);
+        }
+        j.end_array();
+        j.field("index", l->ListIndex);
+        j.end_object();
+    }
+    j.end_object();
+
+    // The fields that the result planes write themselves.
+    j.key("felder");
+    j.begin_object();
+    const HeizFelder& h = heiz_felder_;
+    for (const auto& [n, t] : std::initializer_list<std::pair<const char*, const std::string*>>{
+             {"qsols_anz", &h.qsols_anz},
+             {"qis_anz", &h.qis_anz},
+             {"qh_s_anz", &h.qh_s_anz},
+             {"qinfs_anz", &h.qinfs_anz},
+             {"qtrs_anz", &h.qtrs_anz},
+             {"qh_anz", &h.qh_anz},
+             {"qsol_anz", &h.qsol_anz},
+             {"qi_anz", &h.qi_anz},
+             {"qinf_anz", &h.qinf_anz},
+             {"qtr_anz", &h.qtr_anz}}) {
+        j.field(n, gueltig_ ? *t : std::string());
+    }
+    // The energy plane's figures and the captions that name the carrier.
+    const Energiekennwerte& en = p.Energie;
+    const bool englisch = einstellung_.Sprache == "e";
+    const std::string traeger = englisch ? en.Traegername_e : en.Traegername;
+    const bool strom = en.Traegername == "Strom";
+    const char dez = einstellung_.dezimal;
+    j.field("E_Energie/Label8",
+            (englisch ? "heating energy demand (" : "Heizenergiebedarf (") + traeger + "):");
+    j.field("E_Energie/Label21",
+            (englisch ? "primary energy demand (" : "Primärenergiebedarf (") + traeger + "):");
+    j.field("E_Energie/Label27", traeger + ":");
+    j.field("strom", strom ? 1 : 0);
+    auto wert = [this, &j](const char* n, const std::string& t) {
+        j.field(n, gueltig_ ? t : std::string());
+    };
+    wert("anz_qhs_sum", format_muster(p.qhs_sum, "0.0", dez));
+    wert("anz_q_verlust", format_muster(en.q_s + en.q_ce + en.q_d, "0.0", dez));
+    wert("anz_e_g", format_muster(en.e_g, "0.00", dez));
+    wert("anz_q_HE_Energieträger", format_muster(p.q_HE_Energietraeger, "0.0", dez));
+    wert("anz_q_HE_Strom", format_muster(p.q_HE_Strom, "0.0", dez));
+    wert("anz_q_PE_Energieträger",
+         format_muster(strom ? p.q_PE_Strom + p.q_PE_Energietraeger : p.q_PE_Energietraeger, "0.0",
+                       dez));
+    wert("anz_q_PE_Strom", format_muster(p.q_PE_Strom, "0.0", dez));
+    wert("anz_Primärenergiefaktor_Energieträger", format_muster(en.f_p, "0.0", dez));
+    wert("anz_Primärenergiefaktor_Strom", format_muster(PRIMAERFAKTOR_STROM, "0.0", dez));
+    if (gueltig_) {
+        const KlimainfoTexte k = klimainfo_texte(p, einstellung_.dezimal);
+        for (const auto& [n, t] : std::initializer_list<std::pair<const char*, const std::string*>>{
+                 {"anz_klimaregion", &k.anz_klimaregion},
+                 {"anz_MaxJahrTemp", &k.anz_MaxJahrTemp},
+                 {"anz_MaxMonatTemp", &k.anz_MaxMonatTemp},
+                 {"anz_MaxMonatName", &k.anz_MaxMonatName},
+                 {"anz_MittelJahrTemp", &k.anz_MittelJahrTemp},
+                 {"anz_MinMonatTemp", &k.anz_MinMonatTemp},
+                 {"anz_MinMonatName", &k.anz_MinMonatName},
+                 {"anz_MinJahrTemp", &k.anz_MinJahrTemp},
+                 {"anz_Heizgradtage", &k.anz_Heizgradtage},
+                 {"anz_Umittel", &k.anz_Umittel},
+                 {"anz_Tspez", &k.anz_Tspez},
+                 {"anz_Vspez", &k.anz_Vspez},
+                 {"anz_TVspez", &k.anz_TVspez},
+                 {"anz_tau", &k.anz_tau},
+                 {"anz_Heizlast", &k.anz_Heizlast},
+                 {"anz_heizlast_spez", &k.anz_heizlast_spez},
+                 {"anz_kuehllast", &k.anz_kuehllast},
+                 {"anz_kuehllast_spez", &k.anz_kuehllast_spez},
+                 {"anz_Heizgrenztemp", &k.anz_Heizgrenztemp},
+                 {"anz_Heiztage", &k.anz_Heiztage}}) {
+            j.field(n, *t);
+        }
+    }
+    j.end_object();
+
+    j.key("diagramme");
+    j.begin_object();
+    for (const auto& [name, flaeche] : flaechen_) {
+        j.field(name, flaeche->fassung());
+    }
+    j.end_object();
+    j.end_object();
+    return j.text();
+}

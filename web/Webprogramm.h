@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// The program for the browser page on the record projekt(): the input planes and their
+// controls by design name, the driver with its refresh table drawing onto canvas surfaces, the
+// project commands and the fault of the last action. A user's input goes to the model only,
+// which fires its handler; the page then reads the state of every control at once (zustand),
+// as the desktop brings its bound widgets up to date after each action.
+
+#include "calc/c_mod.h"
+#include "charts/Auffrischtabelle.h"
+#include "charts/Flaechen.h"
+#include "charts/Neuzeichnen.h"
+#include "climate/Bitmap.h"
+#include "planes/Eingabeflaechen.h"
+#include "project/Dialogs.h"
+#include "project/FILEIO.h"
+#include "web/CanvasFlaeche.h"
+#include "web/Steuerelemente.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+class Rechenlauf;
+
+// The page's answers to the project's dialogs: a message goes to `nachricht`, which returns
+// the button chosen; the open and save dialogs answer with the path the page put there before
+// the command, once.
+class Seitendialoge : public Dialogs {
+public:
+    std::function<Antwort(const std::string& text, const std::string& titel, Knoepfe k)> frage;
+    std::optional<std::string> oeffnen_pfad;
+    std::optional<std::string> speichern_pfad;
+    std::string titel;
+
+    Antwort nachricht(const std::string& text, const std::string& t, Symbol, Knoepfe knoepfe,
+                      bool) override;
+    std::optional<std::string> oeffnen_dialog(const std::string&, int, const std::string&) override;
+    std::optional<std::string> speichern_dialog(const std::string&, int,
+                                                const std::string&) override;
+    void titel_setzen(const std::string& t) override { titel = t; }
+};
+
+class Webprogramm {
+public:
+    // The input planes by the order of their buttons, and the output planes.
+    enum Eingabe { Geometrie, Fenster, Daemmung, Gebaeude, Klima, Energie };
+    enum Ausgabe { Uebersicht, KlimaGebaeude, Heizen, Kuehlen, Sankey };
+
+    // The program in `sprache` ("d" or "e") on the station folder `klima`; `breite` and `hoehe`
+    // measure the texts of the charts. Its charts are made next, then it starts.
+    Webprogramm(const std::string& sprache, const std::string& klima,
+                CanvasFlaeche::Textmass breite, CanvasFlaeche::Textmass hoehe,
+                Seitendialoge& dialoge);
+    ~Webprogramm();
+    // A chart of the page by its design name ("Monatsbilanz"), its size and background.
+    void flaeche_anlegen(const std::string& feld, int breite, int hoehe, Rgb hintergrund);
+    // The new project built up and calculated, as at the desktop's start. Needs every chart.
+    bool starten();
+    Webprogramm(const Webprogramm&) = delete;
+    Webprogramm& operator=(const Webprogramm&) = delete;
+
+    // The user's actions on the control `name` (its design name as in steuerelemente()). Each
+    // returns false for a fault, whose text is then in fehler().
+    bool pfeil(const std::string& name, int richtung);
+    bool seite(const std::string& name, int richtung);
+    bool setzen(const std::string& name, int wert);
+    // A plane's own buttons and fields: "Command_HR(i)", "Command1".."Command3",
+    // "Label_Auswahl(i)", "Frame_Auswahl".
+    bool klicken(const std::string& name);
+    // The climate plane: "Option" with the scope 1..3, "Klimaregionwahl" or "Klimaregionwahl2"
+    // with the row chosen, "plz" with the post code typed and searched.
+    bool klima(const std::string& was, int wert, const std::string& text);
+    // The German map: a press picks the region under the pixel (x, y) of the picture shown, the
+    // hover names it (empty outside the regions).
+    bool karte_klick(int x, int y);
+    std::string karte_hover(int x, int y);
+    // A month button of the overview, 1..12.
+    void monat(int m);
+    // A plane's button: the plane comes up, its charts are drawn.
+    bool eingabe_zeigen(int ebene);
+    bool ausgabe_zeigen(int ebene);
+    // The whole year calculated anew, as a change of an input does.
+    bool berechnen();
+    // The project commands of the menu; a path the dialogs will answer with is set before.
+    bool neu();
+    bool oeffnen(const std::string& pfad);
+    // Saves under the current name (`unter` false) or under `pfad`; the path written, or empty.
+    std::string speichern(bool unter, const std::string& pfad);
+
+    // Every control's and label's state as JSON: {"name": {...}, ...}, with the chart versions,
+    // the validity of the results and the title.
+    std::string zustand() const;
+    // The tooltip of the chart `feld` at (x, y), empty where none shows.
+    std::string tooltip(const std::string& feld, double x, double y) const;
+    // The results as the command line's calc writes them.
+    std::string ergebnis() const;
+    // The report as Rich Text, and the temperature table as text.
+    std::string report(const std::function<double(const std::string&)>& times_breite) const;
+    std::string temperaturen() const;
+
+    const std::string& fehler() const { return fehler_; }
+    bool gueltig() const { return gueltig_; }
+    CanvasFlaeche* flaeche(const std::string& feld);
+    const std::map<std::string, std::unique_ptr<CanvasFlaeche>>& flaechen() const {
+        return flaechen_;
+    }
+    Projekt& p;
+    Eingabeflaechen& ebenen() { return *ebenen_; }
+
+private:
+    bool ausfuehren(const std::function<void()>& aktion);
+    void nach_aktion();
+    Ergebnisebenen ergebnisebenen();
+    void zeichnen(Flaeche f);
+    // The charts of the planes shown, from the record as it stands.
+    void gezeigte_zeichnen();
+
+    Seitendialoge& dialoge_;
+    Diagrammeinstellung einstellung_;
+    std::unique_ptr<Eingabeflaechen> ebenen_;
+    std::unique_ptr<FILEIO> io_;
+    std::map<std::string, Steuerelement> steuer_;
+    std::map<std::string, std::unique_ptr<CanvasFlaeche>> flaechen_;
+    HeizFelder heiz_felder_;
+    std::unique_ptr<GeometrieFlaechen> geometrie_;
+    std::unique_ptr<UebersichtFlaechen> uebersicht_;
+    std::unique_ptr<HeizenFlaechen> heizen_;
+    std::unique_ptr<KuehlenFlaechen> kuehlen_;
+    std::unique_ptr<SankeyFlaechen> sankey_;
+    std::unique_ptr<EnergieFlaechen> energie_;
+    std::unique_ptr<Rechenlauf> rechenlauf_;
+    std::unique_ptr<Auffrischtabelle> auffrischen_;
+    CanvasFlaeche::Textmass breite_, hoehe_;
+    int eingabe_ = Geometrie;
+    int ausgabe_ = Uebersicht;
+    bool gueltig_ = true;
+    std::string fehler_;
+    // The map picture shown, read again only when the picture changes.
+    const Bitmap& karte();
+    std::string karte_name_;
+    std::unique_ptr<Bitmap> karte_;
+};
