@@ -162,6 +162,7 @@ void Desktopprogramm::fenster_bauen() {
     // so that the texts the planes write themselves win.
     if (p.Sprache == "e") {
         unuebersetzt += fenster_uebersetzen(*haupt, "Haupt");
+        haupt->zoom_beschriften(true);
         unuebersetzt += fenster_uebersetzen(*haupt->E_Menue, "E_Menue");
         unuebersetzt += fenster_uebersetzen(*haupt->A_Menue, "A_Menue");
         const std::array<const char*, 4> namen{"E_Geometrie", "E_Fenster", "E_Daemmung",
