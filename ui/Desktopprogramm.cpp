@@ -10,6 +10,7 @@
 #include "project/eingaben_anzeigen.h"
 #include "ui/ChartWidget.h"
 #include "ui/Drucken.h"
+#include "ui/Massstab.h"
 #include "ui/QtImportDialoge.h"
 #include "ui/ReportFenster.h"
 #include "ui/Tastatur.h"
@@ -371,6 +372,7 @@ void Desktopprogramm::zoom_zeigen() {
             monat_waehlen(uebersicht_diagramme, p, einstellung_, m);
         };
     }
+    zoom->massstab_setzen(haupt->massstab().faktor());
     zoom->show();
     zoom->raise();
     zoom->Temperaturen->zeichnen();

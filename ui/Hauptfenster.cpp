@@ -156,6 +156,7 @@ void Hauptfenster::menue_bauen() {
     connect(mnuZoomGroesser, &QAction::triggered, this, [this] { zoom_setzen(zoomstufe_ + 1); });
     connect(mnuZoomKleiner, &QAction::triggered, this, [this] { zoom_setzen(zoomstufe_ - 1); });
     connect(mnuZoomOriginal, &QAction::triggered, this, [this] { zoom_setzen(0); });
+    mnuZoomKleiner->setEnabled(false);
 
     QMenu* extras = menue(nullptr, "mnuExtras", "&Extras");
     eintrag(extras, "mnuKlimaImportieren", "&Klimadaten importieren", &klimaimport);
@@ -202,18 +203,21 @@ void Hauptfenster::zoom_setzen(int stufe) {
     const double z = ZOOMSTUFEN[static_cast<std::size_t>(zoomstufe_)];
     QSize client(static_cast<int>(std::lround(CLIENT_BREITE * z)),
                  static_cast<int>(std::lround(CLIENT_HOEHE * z)));
-    const int menue = menuBar()->sizeHint().height();
-    // Not larger than the screen's free area less the window's frame.
-    if (const QScreen* schirm = screen()) {
-        const QSize rahmen = frameGeometry().size() - geometry().size();
-        const QSize frei = schirm->availableGeometry().size() - rahmen - QSize(0, menue);
-        client = client.boundedTo(frei).expandedTo(QSize(CLIENT_BREITE, CLIENT_HOEHE));
-    }
     if (isMaximized() || isFullScreen()) {
         showNormal();
     }
-    setMinimumSize(client.width(), client.height() + menue);
-    resize(client.width(), client.height() + menue);
+    // The window's own parts around the client area: the menu bar and the platform's frame.
+    const QSize client_jetzt = centralWidget()->isVisible()
+                                   ? centralWidget()->size()
+                                   : QSize(width(), height() - menuBar()->sizeHint().height());
+    const QSize drumherum = size() - client_jetzt;
+    if (const QScreen* schirm = screen()) {
+        const QSize rahmen = frameGeometry().size() - geometry().size();
+        const QSize frei = schirm->availableGeometry().size() - rahmen - drumherum;
+        client = client.boundedTo(frei).expandedTo(QSize(CLIENT_BREITE, CLIENT_HOEHE));
+    }
+    setMinimumSize(client + drumherum);
+    resize(client + drumherum);
     mnuZoomGroesser->setEnabled(zoomstufe_ + 1 < static_cast<int>(ZOOMSTUFEN.size()));
     mnuZoomKleiner->setEnabled(zoomstufe_ > 0);
 }
