@@ -145,58 +145,57 @@ void QtImageSurface::ausfuehren(const Schritt& s) {
 }
 
 void QtImageSurface::linie(const Schritt& s) {
-    int xa = runden(s.a), ya = runden(s.b);
+    const int xa = runden(s.a), ya = runden(s.b);
     const int xe = runden(s.c), ye = runden(s.d);
     const QRgb c = qrgb(s.farbe);
-    if (massstab_ != 1.0 && s.breite <= 1 && (xa == xe || ya == ye)) {
-        // Straight along an axis: whole chart pixels, sharp at any scale.
+    if (s.breite > 1) {
+        QPainter maler(&bild_);
+        maler.setPen(QPen(farbe(s.farbe), s.breite));
+        if (massstab_ == 1.0) {
+            maler.drawLine(xa, ya, xe, ye);
+            return;
+        }
+        maler.setRenderHint(QPainter::Antialiasing);
+        maler.scale(massstab_, massstab_);
+        maler.drawLine(QPointF(xa + 0.5, ya + 0.5), QPointF(xe + 0.5, ye + 0.5));
+        return;
+    }
+    if (massstab_ == 1.0) {
+        bresenham(xa, ya, xe, ye, 1, c);
+    } else if (ya == ye) {
+        // Along an axis: whole chart pixels, without the end pixel.
         if (xa != xe) {
             fuellen(xe > xa ? xa : xe + 1, ya, xe > xa ? xe - 1 : xa, ya, c);
-        } else if (ya != ye) {
-            fuellen(xa, ye > ya ? ya : ye + 1, xa, ye > ya ? ye - 1 : ya, c);
         }
-        return;
+    } else if (xa == xe) {
+        fuellen(xa, ye > ya ? ya : ye + 1, xa, ye > ya ? ye - 1 : ya, c);
+    } else {
+        // Slanted: a square pen of the scale walks from the start pixel's middle towards the
+        // end pixel's in the image's own pixels, as sharp as the line at 1.
+        const int stift = std::max(1, static_cast<int>(std::lround(massstab_)));
+        auto ecke = [this, stift](int v) {
+            return static_cast<int>(std::lround((v + 0.5) * massstab_ - stift / 2.0));
+        };
+        bresenham(ecke(xa), ecke(ya), ecke(xe), ecke(ye), stift, c);
     }
-    if (massstab_ != 1.0 || s.breite > 1) {
-        if (s.breite <= 1 && xa == xe && ya == ye) {
-            return;
-        }
-        QPainter maler(&bild_);
-        maler.scale(massstab_, massstab_);
-        QPen stift(farbe(s.farbe), s.breite);
-        if (massstab_ != 1.0) {
-            maler.setRenderHint(QPainter::Antialiasing);
-        }
-        if (s.breite > 1) {
-            maler.setPen(stift);
-            if (massstab_ == 1.0) {
-                maler.drawLine(xa, ya, xe, ye);
-            } else {
-                maler.drawLine(QPointF(xa + 0.5, ya + 0.5), QPointF(xe + 0.5, ye + 0.5));
-            }
-            return;
-        }
-        // From the start pixel's near edge to the end pixel's near edge, which leaves the end
-        // pixel out as the line of one chart pixel does.
-        stift.setCapStyle(Qt::FlatCap);
-        maler.setPen(stift);
-        const double schritte = std::max(std::abs(xe - xa), std::abs(ye - ya));
-        const QPointF halb(0.5 * (xe - xa) / schritte, 0.5 * (ye - ya) / schritte);
-        maler.drawLine(QPointF(xa + 0.5, ya + 0.5) - halb, QPointF(xe + 0.5, ye + 0.5) - halb);
-        return;
-    }
+}
+
+void QtImageSurface::bresenham(int xa, int ya, int xe, int ye, int stift, QRgb c) {
     const int dx = std::abs(xe - xa), dy = -std::abs(ye - ya);
     const int sx = xa < xe ? 1 : -1, sy = ya < ye ? 1 : -1;
     int fehler = dx + dy;
     // The end pixel is left out, as the platform's line does. A walk that has left the surface
     // in its own direction sees nothing more.
     while (xa != xe || ya != ye) {
-        if ((sx > 0 && xa >= bild_.width()) || (sx < 0 && xa < 0) ||
-            (sy > 0 && ya >= bild_.height()) || (sy < 0 && ya < 0)) {
+        if ((sx > 0 && xa >= bild_.width()) || (sx < 0 && xa + stift <= 0) ||
+            (sy > 0 && ya >= bild_.height()) || (sy < 0 && ya + stift <= 0)) {
             return;
         }
-        if (xa >= 0 && ya >= 0 && xa < bild_.width() && ya < bild_.height()) {
-            reinterpret_cast<QRgb*>(bild_.scanLine(ya))[xa] = c;
+        for (int y = std::max(ya, 0); y < std::min(ya + stift, bild_.height()); ++y) {
+            QRgb* zeile = reinterpret_cast<QRgb*>(bild_.scanLine(y));
+            for (int x = std::max(xa, 0); x < std::min(xa + stift, bild_.width()); ++x) {
+                zeile[x] = c;
+            }
         }
         const int f2 = 2 * fehler;
         if (f2 >= dy) {

@@ -70,6 +70,9 @@ private:
     Schritt schritt(Schritt::Art art, double a, double b, double c, double d, Rgb farbe) const;
     void ausfuehren(const Schritt& s);
     void linie(const Schritt& s);
+    // The pixels of the image from (xa, ya) towards (xe, ye), without the end, each a square of
+    // `stift` pixels.
+    void bresenham(int xa, int ya, int xe, int ye, int stift, QRgb farbe);
     void kreis(const Schritt& s);
     void text(const Schritt& s);
     void bild_anlegen();
