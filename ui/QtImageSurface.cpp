@@ -171,8 +171,9 @@ void QtImageSurface::linie(const Schritt& s) {
         fuellen(xa, ye > ya ? ya : ye + 1, xa, ye > ya ? ye - 1 : ya, c);
     } else {
         // Slanted: a square pen of the scale walks from the start pixel's middle towards the
-        // end pixel's in the image's own pixels, as sharp as the line at 1.
-        const int stift = std::max(1, static_cast<int>(std::lround(massstab_)));
+        // end pixel's in the image's own pixels, as sharp as the line at 1. The pen is rounded
+        // up, so that neighbouring lines that fill an area at 1 leave no gaps.
+        const int stift = std::max(1, static_cast<int>(std::ceil(massstab_ - 1e-9)));
         auto ecke = [this, stift](int v) {
             return static_cast<int>(std::lround((v + 0.5) * massstab_ - stift / 2.0));
         };
