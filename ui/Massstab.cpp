@@ -6,10 +6,13 @@
 
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProxyStyle>
+#include <QStyleFactory>
 #include <QWidget>
 
 #include <algorithm>
@@ -54,6 +57,35 @@ QPoint versatz_fuer(const QWidget& w) {
     return {};
 }
 
+} // namespace
+
+// The application's style with the parts it draws at a fixed size (the boxes of check boxes and
+// options, the arrows of scroll bars, the gaps beside them) grown by the scale.
+class SkalierterStil : public QProxyStyle {
+public:
+    SkalierterStil() : QProxyStyle(QStyleFactory::create(QApplication::style()->name())) {}
+    double faktor = 1.0;
+
+    int pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const override {
+        const int wert = QProxyStyle::pixelMetric(m, o, w);
+        switch (m) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+        case PM_CheckBoxLabelSpacing:
+        case PM_RadioButtonLabelSpacing:
+        case PM_ScrollBarExtent:
+        case PM_ScrollBarSliderMin:
+            return static_cast<int>(std::lround(wert * faktor));
+        default:
+            return wert;
+        }
+    }
+};
+
+namespace {
+
 void platzieren(QWidget& w, const QRect& entwurf, double s) {
     const QRect r = massstab::skaliert(entwurf, s).translated(versatz_fuer(w));
     if (w.property(FEST).toBool()) {
@@ -65,7 +97,8 @@ void platzieren(QWidget& w, const QRect& entwurf, double s) {
 } // namespace
 
 Massstab::Massstab(QWidget& wurzel, QSize entwurf, bool folgen)
-    : QObject(&wurzel), wurzel_(wurzel), entwurf_(entwurf) {
+    : QObject(&wurzel), wurzel_(wurzel), entwurf_(entwurf), stil_(new SkalierterStil) {
+    stil_->setParent(this);
     wurzel_.setProperty(FAKTOR, 1.0);
     if (folgen) {
         wurzel_.installEventFilter(this);
@@ -96,6 +129,7 @@ void Massstab::setzen(double s) {
         aufnehmen(*k, versatz_fuer(*k));
     }
     faktor_ = s;
+    stil_->faktor = s;
     wurzel_.setProperty(FAKTOR, s);
     const QSize gross = massstab::skaliert(QRect(QPoint(), entwurf_), s).size();
     wurzel_.setProperty(VERSATZ, QPoint(std::max(0, (wurzel_.width() - gross.width()) / 2),
@@ -119,6 +153,7 @@ void Massstab::aufnehmen(QWidget& w, const QPoint& versatz) {
             w.setProperty(SCHRIFT,
                           f.pixelSize() > 0 ? QVariant(f.pixelSize()) : QVariant(f.pointSizeF()));
         }
+        w.setStyle(stil_);
         // A picture is drawn smoothly from its source at any size.
         if (auto* l = qobject_cast<QLabel*>(&w)) {
             l->setScaledContents(true);

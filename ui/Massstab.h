@@ -7,6 +7,7 @@
 #include <QSize>
 
 class QWidget;
+class SkalierterStil;
 
 // The scale of a window's client area: every widget under the root keeps its place, size and
 // font of the design (the pixels the planes' builders give) and is shown at that times the
@@ -36,6 +37,7 @@ private:
 
     QWidget& wurzel_;
     QSize entwurf_;
+    SkalierterStil* stil_;
     double faktor_ = 1.0;
     int schrift_pixel_ = 0;
     double schrift_punkte_ = 0;
