@@ -14,9 +14,10 @@
 // exactly; circles, pies and texts go through QPainter without antialiasing.
 //
 // A window shown larger draws its charts at its own resolution: with `pixel_je_punkt` above 1
-// every chart pixel becomes a square of that many pixels, while lines keep their width of one
-// chart pixel and texts are set in the enlarged font, smoothed. The charts keep drawing in their
-// own pixel units. The drawing since the last Cls is kept, so that a new scale draws it anew.
+// every chart pixel becomes a square of that many pixels: boxes, fills, points and straight lines
+// cover exactly their chart pixels, slanted lines are drawn in the image's own pixels about one
+// chart pixel wide, and texts are set in the enlarged font, smoothed. The charts keep drawing in
+// their own pixel units. The drawing since the last Cls is kept, so that a new scale draws it anew.
 class QtImageSurface : public Surface {
 public:
     QtImageSurface(int width, int height, Rgb background = WHITE);
