@@ -260,7 +260,8 @@ void QtImageSurface::text(const Schritt& s) {
     QPainter maler(&bild_);
     QFont f = schrift(s.schriftname, s.punkte, s.fett);
     if (massstab_ != 1.0) {
-        f.setPixelSize(std::max(1, runden(f.pixelSize() * massstab_)));
+        // Rounded down, so that a text needs no more room than at 1, where the charts placed it.
+        f.setPixelSize(std::max(1, static_cast<int>(std::floor(f.pixelSize() * massstab_ + 1e-9))));
         f.setStyleStrategy(QFont::PreferAntialias);
         maler.setRenderHint(QPainter::TextAntialiasing);
     }
