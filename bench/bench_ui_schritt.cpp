@@ -3,11 +3,13 @@
 // of the shown input plane, its handler with the whole recalculation, and the main window
 // painted anew. Run with repetitions, the median is the figure that counts. Each step runs once
 // with the overview plane shown, whose four charts and temperature course the refresh table
-// redraws, and once with the climate/building plane, which shows labels only.
+// redraws, and once with the climate/building plane, which shows labels only. The steps marked
+// 2x run in a window twice the design's size, whose charts have four times the pixels.
 #include "project/c_glob.h"
 #include "ui/Desktopprogramm.h"
 
 #include <QApplication>
+#include <QMenuBar>
 #include <QScrollBar>
 
 #include <benchmark/benchmark.h>
@@ -15,11 +17,14 @@
 namespace {
 
 // A step on the bar `balken` of the input plane `ebene` (by the order of E_Menue), with the
-// output plane `ausgabe` shown (by the order of A_Menue).
-void schritt(benchmark::State& state, int ebene, const char* balken, int ausgabe) {
+// output plane `ausgabe` shown (by the order of A_Menue), the window `massstab` times the design.
+void schritt(benchmark::State& state, int ebene, const char* balken, int ausgabe,
+             int massstab = 1) {
     Desktopprogramm programm;
     programm.starten("d");
     Hauptfenster& haupt = *programm.haupt;
+    haupt.resize(800 * massstab, 546 * massstab + haupt.menuBar()->sizeHint().height());
+    QCoreApplication::processEvents();
     haupt.eingabe_zeigen(ebene);
     haupt.ausgabe_zeigen(ausgabe);
     auto* sb = haupt.eingabe[static_cast<std::size_t>(ebene)]->findChild<QScrollBar*>(balken);
@@ -59,6 +64,15 @@ void BM_fensteranteil_sued_heizen(benchmark::State& state) {
 void BM_fensteranteil_sued_sankey(benchmark::State& state) {
     schritt(state, Hauptfenster::Fenster, "f_sb(1)", Hauptfenster::Sankey);
 }
+void BM_laenge_2x(benchmark::State& state) {
+    schritt(state, Hauptfenster::Geometrie, "l_sb", Hauptfenster::Uebersicht, 2);
+}
+void BM_fensteranteil_sued_2x(benchmark::State& state) {
+    schritt(state, Hauptfenster::Fenster, "f_sb(1)", Hauptfenster::Uebersicht, 2);
+}
+void BM_fensteranteil_sued_heizen_2x(benchmark::State& state) {
+    schritt(state, Hauptfenster::Fenster, "f_sb(1)", Hauptfenster::Heizen, 2);
+}
 
 } // namespace
 
@@ -69,6 +83,9 @@ BENCHMARK(BM_laenge_ohne_diagramme)->Unit(benchmark::kMillisecond)->Repetitions(
 BENCHMARK(BM_fensteranteil_sued_ohne_diagramme)->Unit(benchmark::kMillisecond)->Repetitions(5);
 BENCHMARK(BM_fensteranteil_sued_heizen)->Unit(benchmark::kMillisecond)->Repetitions(5);
 BENCHMARK(BM_fensteranteil_sued_sankey)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(BM_laenge_2x)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(BM_fensteranteil_sued_2x)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(BM_fensteranteil_sued_heizen_2x)->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

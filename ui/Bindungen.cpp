@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Bindungen.h"
+#include "ui/Massstab.h"
 
 #include "planes/CheckField.h"
 #include "planes/Label.h"
@@ -219,7 +220,7 @@ void Bindungen::label(QLabel& l, const Label& modell, Art art, int massstab) {
             l.setText(text);
             // A caption that the plane places takes the width of its text.
             if (art == Art::Entwurf && massstab > 0) {
-                l.adjustSize();
+                massstab::anpassen(l);
             }
         }
         if (art == Art::Ergebnis) {
@@ -228,8 +229,8 @@ void Bindungen::label(QLabel& l, const Label& modell, Art art, int massstab) {
         sichtbar_setzen(l, modell.Visible);
         if (massstab > 0) {
             const QPoint ort(modell.Left / massstab, modell.Top / massstab);
-            if (l.pos() != ort) {
-                l.move(ort);
+            if (massstab::entwurf(l).topLeft() != ort) {
+                massstab::verschieben(l, ort);
             }
         }
         QPalette pal = normal;

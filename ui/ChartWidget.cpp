@@ -17,13 +17,28 @@ void ChartWidget::gueltig_setzen(bool gueltig) {
     }
 }
 
+void ChartWidget::massstab_setzen(double massstab) {
+    massstab_ = massstab;
+    flaeche_.massstab_setzen(massstab * devicePixelRatioF());
+    update();
+}
+
 void ChartWidget::paintEvent(QPaintEvent*) {
     QPainter maler(this);
     if (!gueltig_) {
         maler.fillRect(rect(), QColor(192, 192, 192));
         return;
     }
-    maler.drawImage(0, 0, flaeche_.bild());
+    const QImage& bild = flaeche_.bild();
+    if (massstab_ == 1.0 && bild.size() == size()) {
+        maler.drawImage(0, 0, bild);
+        return;
+    }
+    // The image has the widget's device pixels; a rounded widget edge shows the background.
+    const Rgb h = flaeche_.BackColor();
+    maler.fillRect(rect(), QColor(h.r, h.g, h.b));
+    const double verhaeltnis = flaeche_.pixel_je_punkt() / massstab_;
+    maler.drawImage(QRectF(0, 0, bild.width() / verhaeltnis, bild.height() / verhaeltnis), bild);
 }
 
 void ChartWidget::showEvent(QShowEvent*) {

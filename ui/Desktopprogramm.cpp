@@ -10,6 +10,7 @@
 #include "project/eingaben_anzeigen.h"
 #include "ui/ChartWidget.h"
 #include "ui/Drucken.h"
+#include "ui/Massstab.h"
 #include "ui/QtImportDialoge.h"
 #include "ui/ReportFenster.h"
 #include "ui/Tastatur.h"
@@ -162,6 +163,7 @@ void Desktopprogramm::fenster_bauen() {
     // so that the texts the planes write themselves win.
     if (p.Sprache == "e") {
         unuebersetzt += fenster_uebersetzen(*haupt, "Haupt");
+        haupt->zoom_beschriften(true);
         unuebersetzt += fenster_uebersetzen(*haupt->E_Menue, "E_Menue");
         unuebersetzt += fenster_uebersetzen(*haupt->A_Menue, "A_Menue");
         const std::array<const char*, 4> namen{"E_Geometrie", "E_Fenster", "E_Daemmung",
@@ -370,6 +372,7 @@ void Desktopprogramm::zoom_zeigen() {
             monat_waehlen(uebersicht_diagramme, p, einstellung_, m);
         };
     }
+    zoom->massstab_setzen(haupt->massstab().faktor());
     zoom->show();
     zoom->raise();
     zoom->Temperaturen->zeichnen();

@@ -10,6 +10,7 @@
 #include "ui/Bindungen.h"
 #include "ui/ChartWidget.h"
 #include "ui/Ebenen.h"
+#include "ui/Massstab.h"
 #include "ui/Tooltiprahmen.h"
 
 #include <QMouseEvent>
@@ -210,12 +211,13 @@ EnergieDiagramme energie_bauen(QWidget& e, E_Energie& g, const Projekt& p,
             // The panel and its stacked entries, twips of the model.
             for (std::size_t i = 0; i < d.Label_Auswahl.size(); ++i) {
                 const Label& m = g.Label_Auswahl[i];
-                d.Label_Auswahl[i]->setGeometry(8, m.Top / TWIPS_JE_PIXEL, EINTRAG_BREITE,
-                                                m.Height / TWIPS_JE_PIXEL);
+                massstab::setzen(
+                    *d.Label_Auswahl[i],
+                    QRect(8, m.Top / TWIPS_JE_PIXEL, EINTRAG_BREITE, m.Height / TWIPS_JE_PIXEL));
             }
-            frame->setGeometry(g.Frame_Auswahl_Left / TWIPS_JE_PIXEL,
-                               g.Frame_Auswahl_Top / TWIPS_JE_PIXEL, LISTE_BREITE,
-                               g.Frame_Auswahl_Height / TWIPS_JE_PIXEL);
+            massstab::setzen(*frame, QRect(g.Frame_Auswahl_Left / TWIPS_JE_PIXEL,
+                                           g.Frame_Auswahl_Top / TWIPS_JE_PIXEL, LISTE_BREITE,
+                                           g.Frame_Auswahl_Height / TWIPS_JE_PIXEL));
             frame->setVisible(g.Frame_Auswahl_Visible);
             if (g.Frame_Auswahl_Visible) {
                 frame->raise();

@@ -2,6 +2,7 @@
 #include "ui/Bau.h"
 #include "ui/Bindungen.h"
 #include "ui/Ebenen.h"
+#include "ui/Massstab.h"
 
 #include "planes/E_Gebaeude.h"
 
@@ -119,9 +120,10 @@ void gebaeude_bauen(QWidget& e, E_Gebaeude& g, Ebenenbau& bau) {
         bd.folgen([=, &g, &bd] {
             // Twips of the frame to pixels: the base line at 1500 is row 100 of the frame.
             auto setzen = [](QFrame* f, int top, int hoehe) {
-                const QRect ort(f->x(), top / TWIPS_JE_PIXEL, f->width(), hoehe / TWIPS_JE_PIXEL);
-                if (f->geometry() != ort) {
-                    f->setGeometry(ort);
+                const QRect alt = massstab::entwurf(*f);
+                const QRect ort(alt.x(), top / TWIPS_JE_PIXEL, alt.width(), hoehe / TWIPS_JE_PIXEL);
+                if (alt != ort) {
+                    massstab::setzen(*f, ort);
                 }
             };
             setzen(gewicht1, g.Gewicht1_Top, g.Gewicht1_Height);

@@ -3,6 +3,7 @@
 #include "ui/Bindungen.h"
 #include "ui/ChartWidget.h"
 #include "ui/Ebenen.h"
+#include "ui/Massstab.h"
 
 #include "planes/E_Geometrie.h"
 
@@ -143,8 +144,8 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
             // The height field is shorter while the roof field stands over it.
             const QRect ort(236, HAUS_VERSATZ + g.h_sb_Top / TWIPS_JE_PIXEL, 16,
                             g.h_sb_Height / TWIPS_JE_PIXEL);
-            if (h->geometry() != ort) {
-                h->setGeometry(ort);
+            if (massstab::entwurf(*h) != ort) {
+                massstab::setzen(*h, ort);
             }
             if (haus->property("bild").toString().toStdString() != g.Picture3) {
                 const std::string datei = g.Picture3.substr(g.Picture3.find('/') + 1);
@@ -152,7 +153,7 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
                 haus->setProperty("bild", QString::fromStdString(g.Picture3));
             }
             // The value over the bar follows its top.
-            av_anz->move(2, 18 + g.av_anz.Top - 4);
+            massstab::verschieben(*av_anz, QPoint(2, 18 + g.av_anz.Top - 4));
         });
     });
     return {av, lage};

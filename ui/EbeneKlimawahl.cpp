@@ -8,6 +8,7 @@
 #include "ui/Bau.h"
 #include "ui/Bindungen.h"
 #include "ui/Ebenen.h"
+#include "ui/Massstab.h"
 #include "ui/Stationskarte.h"
 #include "ui/ZoomKlima.h"
 
@@ -35,14 +36,14 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* e) override {
         if (klick) {
-            const QPoint p = e->position().toPoint();
+            const QPoint p = massstab::entwurfspunkt(*this, e->position());
             klick(p.x(), p.y());
         }
         QLabel::mousePressEvent(e);
     }
     void mouseMoveEvent(QMouseEvent* e) override {
         if (bewegung) {
-            const QPoint p = e->position().toPoint();
+            const QPoint p = massstab::entwurfspunkt(*this, e->position());
             bewegung(p.x(), p.y());
         }
         QLabel::mouseMoveEvent(e);
@@ -273,7 +274,8 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
         for (Stationskarte* karte_n : {w.Picture2, w.Picture3}) {
             karte_n->bewegung = [maus, karte_n, ebene, &k, &p](int32_t farbe, int x, int y) {
                 station_karte_hover(k, p, farbe, x, y);
-                const QPoint auf_ebene = karte_n->mapTo(ebene, QPoint(x, y));
+                const QPoint auf_ebene = massstab::entwurfspunkt(
+                    *ebene, karte_n->mapTo(ebene, QPoint(x, y) * massstab::von(*ebene)));
                 maus.bewegt(auf_ebene.x(), auf_ebene.y(), k.MausRegion);
             };
             karte_n->loslassen = [&bd, &k, &p](int32_t farbe, int x, int y) {
@@ -284,7 +286,7 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
         }
         QObject::connect(w.HScroll1, &QScrollBar::valueChanged, w.HScroll1, [w, &k](int wert) {
             HScroll1_Change(k, wert);
-            w.Picture3->move(-k.HScroll1 / TWIPS_JE_PIXEL, 0);
+            massstab::verschieben(*w.Picture3, QPoint(-k.HScroll1 / TWIPS_JE_PIXEL, 0));
         });
         image1->klick = [w] { w.E_Zoom_Klima->oeffnen(); };
         w.E_Zoom_Klima->bestaetigt = [&bd, &k, &p](const E_Zoom_Klima& z) {
@@ -318,7 +320,7 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
                     kartenpunkte(k.listen.Welt, k.Klimaregionwahl2.ListIndex));
                 const QSignalBlocker still(w.HScroll1);
                 w.HScroll1->setValue(k.HScroll1);
-                w.Picture3->move(-k.HScroll1 / TWIPS_JE_PIXEL, 0);
+                massstab::verschieben(*w.Picture3, QPoint(-k.HScroll1 / TWIPS_JE_PIXEL, 0));
             }
             // wetter_laden names the station on the climate information plane after the
             // recalculation, so after that plane's own refresh.

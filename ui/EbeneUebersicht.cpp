@@ -6,6 +6,7 @@
 #include "ui/Bau.h"
 #include "ui/ChartWidget.h"
 #include "ui/Ebenen.h"
+#include "ui/Massstab.h"
 #include "ui/Tooltiprahmen.h"
 
 #include <QFrame>
@@ -102,9 +103,10 @@ void monat_waehlen(UebersichtDiagramme& d, Projekt& p, const Diagrammeinstellung
     p.Monat_Uebersicht = static_cast<int16_t>(m);
     QPushButton* k = d.Monatsbutton[static_cast<std::size_t>(m - 1)];
     d.AktiverMonat1->setText(k->text());
-    d.AktiverMonat->setGeometry(k->geometry());
+    const QRect knopf = massstab::entwurf(*k);
+    massstab::setzen(*d.AktiverMonat, knopf);
     // The caption field one pixel larger than its frame's inside, as the frame lies on the button.
-    d.AktiverMonat1->setGeometry(0, 0, k->width() + 1, k->height() + 1);
+    massstab::setzen(*d.AktiverMonat1, QRect(0, 0, knopf.width() + 1, knopf.height() + 1));
     d.AktiverMonat->raise();
     d.AktiverMonat->show();
     if (d.Temperaturen->isVisible() && d.Temperaturen->gueltig()) {

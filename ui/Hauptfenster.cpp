@@ -2,13 +2,17 @@
 #include "ui/Hauptfenster.h"
 
 #include "ui/Bau.h"
+#include "ui/Massstab.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
+
+#include <algorithm>
 
 using bau::TWIPS_JE_PIXEL;
 
@@ -83,6 +87,7 @@ Hauptfenster::Hauptfenster() {
                 [this, i] { ausgabe_zeigen(static_cast<int>(i)); });
     }
     menue_bauen();
+    massstab_ = new Massstab(*mitte, QSize(CLIENT_BREITE, CLIENT_HOEHE));
     eingabe_zeigen(Geometrie);
     ausgabe_zeigen(Uebersicht);
     ausgabe_aktiv_ = false;
@@ -139,6 +144,20 @@ void Hauptfenster::menue_bauen() {
         connect(a, &QAction::triggered, this, [this, i] { eingabe_zeigen(static_cast<int>(i)); });
     }
 
+    // The zoom, with the keys of the usual programs.
+    win->addSeparator();
+    mnuZoomGroesser = eintrag(win, "mnuZoomGroesser", "Vergrößern", nullptr);
+    mnuZoomGroesser->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    mnuZoomKleiner = eintrag(win, "mnuZoomKleiner", "Verkleinern", nullptr);
+    mnuZoomKleiner->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
+    mnuZoomOriginal = eintrag(win, "mnuZoomOriginal", "Originalgröße", nullptr);
+    mnuZoomOriginal->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+    connect(mnuZoomGroesser, &QAction::triggered, this, [this] { zoom_setzen(zoomstufe_ + 1); });
+    connect(mnuZoomKleiner, &QAction::triggered, this, [this] { zoom_setzen(zoomstufe_ - 1); });
+    connect(mnuZoomOriginal, &QAction::triggered, this, [this] { zoom_setzen(0); });
+    mnuZoomKleiner->setEnabled(false);
+
     QMenu* extras = menue(nullptr, "mnuExtras", "&Extras");
     eintrag(extras, "mnuKlimaImportieren", "&Klimadaten importieren", &klimaimport);
     QMenu* sprachen = menue(extras, "mnuSprache", "&Sprache");
@@ -170,6 +189,37 @@ void Hauptfenster::menue_bauen() {
         }
     });
     eintrag(frage, "mnuQuestInfo", "&Info...", &info);
+}
+
+void Hauptfenster::zoom_beschriften(bool englisch) {
+    mnuZoomGroesser->setText(englisch ? QStringLiteral("Zoom in") : QStringLiteral("Vergrößern"));
+    mnuZoomKleiner->setText(englisch ? QStringLiteral("Zoom out") : QStringLiteral("Verkleinern"));
+    mnuZoomOriginal->setText(englisch ? QStringLiteral("Actual size")
+                                      : QStringLiteral("Originalgröße"));
+}
+
+void Hauptfenster::zoom_setzen(int stufe) {
+    zoomstufe_ = std::clamp(stufe, 0, static_cast<int>(ZOOMSTUFEN.size()) - 1);
+    const double z = ZOOMSTUFEN[static_cast<std::size_t>(zoomstufe_)];
+    QSize client(static_cast<int>(std::lround(CLIENT_BREITE * z)),
+                 static_cast<int>(std::lround(CLIENT_HOEHE * z)));
+    if (isMaximized() || isFullScreen()) {
+        showNormal();
+    }
+    // The window's own parts around the client area: the menu bar and the platform's frame.
+    const QSize client_jetzt = centralWidget()->isVisible()
+                                   ? centralWidget()->size()
+                                   : QSize(width(), height() - menuBar()->sizeHint().height());
+    const QSize drumherum = size() - client_jetzt;
+    if (const QScreen* schirm = screen()) {
+        const QSize rahmen = frameGeometry().size() - geometry().size();
+        const QSize frei = schirm->availableGeometry().size() - rahmen - drumherum;
+        client = client.boundedTo(frei).expandedTo(QSize(CLIENT_BREITE, CLIENT_HOEHE));
+    }
+    setMinimumSize(client + drumherum);
+    resize(client + drumherum);
+    mnuZoomGroesser->setEnabled(zoomstufe_ + 1 < static_cast<int>(ZOOMSTUFEN.size()));
+    mnuZoomKleiner->setEnabled(zoomstufe_ > 0);
 }
 
 void Hauptfenster::eingabe_zeigen(int ebene) {

@@ -6,12 +6,15 @@
 #include <array>
 #include <functional>
 
+class Massstab;
 class QAction;
 class QPushButton;
 
 // The main window Haupt: the menu, the input planes under the bar E_Menue on the left, the
 // output planes over the bar A_Menue on the right, all at the fixed places of the design. One
-// plane of each side is shown; a plane's button is disabled while its plane is shown.
+// plane of each side is shown; a plane's button is disabled while its plane is shown. Below the
+// menu bar the whole design scales with the window, proportions kept; the zoom of the menu sets
+// the window's size in steps of the design's.
 class Hauptfenster : public QMainWindow {
 public:
     // The input planes by their buttons' order on E_Menue and the output planes by A_Menue's.
@@ -28,6 +31,18 @@ public:
     std::array<QPushButton*, 5> ausgabe_knopf{};
     QAction* mnuSpracheDeutsch = nullptr;
     QAction* mnuSpracheEnglisch = nullptr;
+    QAction *mnuZoomGroesser = nullptr, *mnuZoomKleiner = nullptr, *mnuZoomOriginal = nullptr;
+
+    // The zoom steps, the design's size times 1 to 3.
+    static constexpr std::array<double, 7> ZOOMSTUFEN{1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0};
+    // The step `stufe` (0 for the design's size): the window's client area grows or shrinks to
+    // the design times the step, as far as the screen allows, and cannot be made smaller.
+    void zoom_setzen(int stufe);
+    int zoomstufe() const { return zoomstufe_; }
+    // The scale the planes are shown at.
+    const Massstab& massstab() const { return *massstab_; }
+    // The captions of the zoom entries in the language of the run.
+    void zoom_beschriften(bool englisch);
 
     // A button's click: every plane of its bar hidden and its buttons enabled, then the plane
     // shown and its button disabled.
@@ -63,6 +78,8 @@ protected:
 
 private:
     void menue_bauen();
+    Massstab* massstab_ = nullptr;
+    int zoomstufe_ = 0;
     int eingabe_gezeigt_ = Geometrie;
     int ausgabe_gezeigt_ = Uebersicht;
     bool ausgabe_aktiv_ = false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Stationskarte.h"
 
+#include "ui/Massstab.h"
+
 #include <QAbstractItemView>
 #include <QMouseEvent>
 #include <QPainter>
@@ -29,16 +31,19 @@ Stationskarte::Stationskarte(QWidget* eltern, const std::string& bild, int breit
         roh = QImage(breite, hoehe, QImage::Format_RGB32);
         roh.fill(Qt::white);
     }
+    roh_ = roh.convertToFormat(QImage::Format_RGB32);
+    faktor_ = faktor;
     const QSize groesse(static_cast<int>(std::lround(roh.width() * faktor)),
                         static_cast<int>(std::lround(roh.height() * faktor)));
-    grund_ = roh.scaled(groesse, Qt::IgnoreAspectRatio, Qt::FastTransformation)
-                 .convertToFormat(QImage::Format_RGB32);
+    grund_ = roh_.scaled(groesse, Qt::IgnoreAspectRatio, Qt::FastTransformation);
     bild_ = grund_;
+    anzeige_ = bild_;
     setFixedSize(groesse);
     setMouseTracking(true);
 }
 
 void Stationskarte::punkte_setzen(const std::vector<Kartenpunkt>& punkte) {
+    punkte_ = punkte;
     bild_ = grund_;
     for (const Kartenpunkt& k : punkte) {
         const int cx = static_cast<int>(std::lround(k.x));
@@ -50,6 +55,36 @@ void Stationskarte::punkte_setzen(const std::vector<Kartenpunkt>& punkte) {
                 }
             }
         }
+    }
+    anzeige_zeichnen();
+}
+
+void Stationskarte::massstab_setzen(double massstab) {
+    if (massstab != massstab_) {
+        massstab_ = massstab;
+        anzeige_zeichnen();
+    }
+}
+
+void Stationskarte::anzeige_zeichnen() {
+    if (massstab_ == 1.0) {
+        anzeige_ = bild_;
+        update();
+        return;
+    }
+    const double s = faktor_ * massstab_ * devicePixelRatioF();
+    anzeige_ = roh_.scaled(QSize(static_cast<int>(std::lround(roh_.width() * s)),
+                                 static_cast<int>(std::lround(roh_.height() * s))),
+                           Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPainter maler(&anzeige_);
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(Qt::NoPen);
+    // A dot's disc covers its centre pixel and two more each way.
+    const double m = massstab_ * devicePixelRatioF();
+    for (const Kartenpunkt& k : punkte_) {
+        maler.setBrush(QColor(rgb(k.farbe)));
+        maler.drawEllipse(QPointF((std::lround(k.x) + 0.5) * m, (std::lround(k.y) + 0.5) * m),
+                          (RADIUS + 0.5) * m, (RADIUS + 0.5) * m);
     }
     update();
 }
@@ -64,11 +99,15 @@ int32_t Stationskarte::farbe(int x, int y) const {
 
 void Stationskarte::paintEvent(QPaintEvent*) {
     QPainter maler(this);
-    maler.drawImage(0, 0, bild_);
+    if (massstab_ == 1.0) {
+        maler.drawImage(0, 0, anzeige_);
+        return;
+    }
+    maler.drawImage(QRectF(rect()), anzeige_);
 }
 
 void Stationskarte::mouseMoveEvent(QMouseEvent* e) {
-    const QPoint p = e->position().toPoint();
+    const QPoint p = massstab::entwurfspunkt(*this, e->position());
     if (bewegung) {
         bewegung(farbe(p.x(), p.y()), p.x(), p.y());
     }
@@ -76,7 +115,7 @@ void Stationskarte::mouseMoveEvent(QMouseEvent* e) {
 }
 
 void Stationskarte::mouseReleaseEvent(QMouseEvent* e) {
-    const QPoint p = e->position().toPoint();
+    const QPoint p = massstab::entwurfspunkt(*this, e->position());
     if (loslassen) {
         loslassen(farbe(p.x(), p.y()), p.x(), p.y());
     }
@@ -89,6 +128,7 @@ Schwebetext Schwebetext::bauen(QWidget* karte, const char* name) {
     s.label->setObjectName(QString::fromUtf8(name));
     s.label->setFrameStyle(QFrame::Box | QFrame::Plain);
     s.label->setAutoFillBackground(true);
+    massstab::eigene_lage(*s.label);
     s.label->hide();
     s.Timer1 = new QTimer(karte);
     s.Timer1->setObjectName(QStringLiteral("Timer1"));
@@ -110,7 +150,8 @@ Schwebetext Schwebetext::bauen(QWidget* karte, const char* name) {
 }
 
 void Schwebetext::bewegt(int x, int y, const std::string& text) const {
-    label->move(x, y + 20);
+    const double s = massstab::von(*label);
+    label->move(static_cast<int>(std::lround(x * s)), static_cast<int>(std::lround((y + 20) * s)));
     label->hide();
     Timer1->start();
     if (text.empty()) {
@@ -124,7 +165,7 @@ void Schwebetext::bewegt(int x, int y, const std::string& text) const {
     const QSize karte = label->parentWidget()->size();
     QPoint ort = label->pos();
     if (ort.y() + label->height() > karte.height()) {
-        ort.setY(y - 4 - label->height());
+        ort.setY(static_cast<int>(std::lround((y - 4) * s)) - label->height());
     }
     ort.setX(std::max(0, std::min(ort.x(), karte.width() - label->width())));
     ort.setY(std::max(0, std::min(ort.y(), karte.height() - label->height())));

@@ -15,7 +15,8 @@
 // A map picture with its station dots: the picture of the Europe or the world map, scaled by a
 // factor, with each dot a filled disc of radius 2 in its exact colour, so that the colour under
 // the pointer tells a dot from the land. Moves and releases of the mouse are handed on with the
-// colour under the pointer.
+// colour under the pointer, in the map's own pixels. Shown larger at its window's scale, the map
+// is drawn smoothly from its source picture, the dots as round discs of that scale.
 class Stationskarte : public QWidget {
 public:
     // `bild` is the path of the BMP; an unreadable picture leaves a white map of `breite` x
@@ -28,6 +29,10 @@ public:
     // The colour at (x, y) in the encoding with red in the low byte; -1 outside.
     int32_t farbe(int x, int y) const;
     const QImage& bild() const { return bild_; }
+    // Widget pixels per map pixel.
+    void massstab_setzen(double massstab);
+    // What is shown: the map at the widget's size.
+    const QImage& anzeige() const { return anzeige_; }
 
     std::function<void(int32_t farbe, int x, int y)> bewegung, loslassen;
 
@@ -37,7 +42,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent* e) override;
 
 private:
-    QImage grund_, bild_;
+    void anzeige_zeichnen();
+
+    QImage roh_, grund_, bild_, anzeige_;
+    std::vector<Kartenpunkt> punkte_;
+    double faktor_ = 1.0, massstab_ = 1.0;
 };
 
 // The hover label of a map with its two timers: Timer1 shows the label a second after the
@@ -48,9 +57,9 @@ struct Schwebetext {
 
     // The label and its timers on `karte`, the label named `name`.
     static Schwebetext bauen(QWidget* karte, const char* name);
-    // The pointer at (x, y): the label goes 20 pixels below it, hidden, and Timer1 restarts;
-    // with an empty text Timer1 stops and nothing will show. A label that would stand out of
-    // its map moves in: left of the right edge, and above the pointer at the foot.
+    // The pointer at (x, y) of the map's pixels: the label goes 20 pixels below it, hidden, and
+    // Timer1 restarts; with an empty text Timer1 stops and nothing will show. A label that would
+    // stand out of its map moves in: left of the right edge, and above the pointer at the foot.
     void bewegt(int x, int y, const std::string& text) const;
 };
 

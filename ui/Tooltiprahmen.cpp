@@ -4,6 +4,7 @@
 #include "charts/Ebenenlage.h"
 #include "charts/Tooltiptexte.h"
 #include "ui/ChartWidget.h"
+#include "ui/Massstab.h"
 
 #include <QCursor>
 #include <QFrame>
@@ -11,6 +12,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <cmath>
 
 Tooltiprahmen::Tooltiprahmen(QWidget& ebene) : QObject(&ebene), ebene_(ebene) {
     Frame_ToolTip = new QFrame(&ebene);
@@ -27,6 +29,7 @@ Tooltiprahmen::Tooltiprahmen(QWidget& ebene) : QObject(&ebene), ebene_(ebene) {
     Label_Tooltip->installEventFilter(this);
     Frame_ToolTip->setMouseTracking(true);
     Frame_ToolTip->installEventFilter(this);
+    massstab::eigene_lage(*Frame_ToolTip);
     Frame_ToolTip->hide();
     Timer_Tip_ein.setObjectName(QStringLiteral("Timer_Tip_ein"));
     Timer_Tip_ein.setInterval(1000);
@@ -56,7 +59,9 @@ bool Tooltiprahmen::eventFilter(QObject* o, QEvent* e) {
     if (t == texte_.end()) {
         return false;
     }
-    const QPointF punkt = static_cast<QMouseEvent*>(e)->position();
+    // The charts' texts and hit tests go by the chart's own pixels.
+    const QPoint punkt = massstab::entwurfspunkt(*static_cast<QWidget*>(o),
+                                                 static_cast<QMouseEvent*>(e)->position());
     const std::string text = t->second(punkt.x());
     if (!treffer_[o](punkt.x(), punkt.y()) || text.empty()) {
         verbergen();
@@ -69,8 +74,11 @@ bool Tooltiprahmen::eventFilter(QObject* o, QEvent* e) {
     QString zeilen = QString::fromStdString(text);
     zeilen.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     Label_Tooltip->setText(zeilen);
+    const double s = massstab::von(ebene_);
+    auto px = [s](int v) { return static_cast<int>(std::lround(v * s)); };
+    Label_Tooltip->move(px(4), px(3));
     Label_Tooltip->adjustSize();
-    Frame_ToolTip->resize(Label_Tooltip->width() + 8, Label_Tooltip->height() + 6);
+    Frame_ToolTip->resize(Label_Tooltip->width() + px(8), Label_Tooltip->height() + px(6));
     return false;
 }
 

@@ -6,6 +6,11 @@
 #include "project/c_glob.h"
 #include "ui/Bau.h"
 #include "ui/ChartWidget.h"
+#include "ui/Massstab.h"
+
+#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -16,7 +21,7 @@ constexpr int KNOPF_HOEHE = 22;
 
 ZoomFenster::ZoomFenster(Projekt& p, const Diagrammeinstellung& e, QWidget* eltern, int breite,
                          int hoehe)
-    : QDialog(eltern), p_(p), e_(e) {
+    : QDialog(eltern), p_(p), e_(e), entwurf_(breite, hoehe) {
     setObjectName(QStringLiteral("A_Zoom"));
     setFixedSize(breite, hoehe);
     const ZoomLage lage = zoom_lage(breite, hoehe);
@@ -39,6 +44,21 @@ ZoomFenster::ZoomFenster(Projekt& p, const Diagrammeinstellung& e, QWidget* elte
                                     lage.Schliessen_Top, 128, 26);
     Command_Schliessen->setProperty("zeile", 0);
     connect(Command_Schliessen, &QPushButton::clicked, this, &QDialog::close);
+}
+
+void ZoomFenster::massstab_setzen(double s) {
+    if (const QScreen* schirm = screen()) {
+        // Room for the title bar and the frame, which the platform adds.
+        const QSize frei = schirm->availableGeometry().size() - QSize(16, 48);
+        s = std::min({s, static_cast<double>(frei.width()) / entwurf_.width(),
+                      static_cast<double>(frei.height()) / entwurf_.height()});
+    }
+    s = std::max(s, 1.0);
+    if (massstab_ == nullptr) {
+        massstab_ = new Massstab(*this, entwurf_, false);
+    }
+    setFixedSize(massstab::skaliert(QRect(QPoint(), entwurf_), s).size());
+    massstab_->setzen(s);
 }
 
 void ZoomFenster::Monatsbutton_Click(int m) {

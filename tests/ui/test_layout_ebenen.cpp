@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The layout check of the planes' real widgets on the offscreen platform, both languages, on the
-// layout cases: no two input widgets overlap, no widget leaves its plane or frame, no caption or
-// list row is cut by its field and no two captions of a plane overlap.
+// layout cases, with the window at its design size and enlarged: no two input widgets overlap, no
+// widget leaves its plane or frame, no caption or list row is cut by its field and no two captions
+// of a plane overlap.
 #include "project/c_glob.h"
 #include "project/projektdatei.h"
 #include "tests/layout/Layoutfaelle.h"
@@ -10,6 +11,7 @@
 #include "tests/ui/Uitesthilfe.h"
 #include "ui/Desktopprogramm.h"
 #include "ui/Hauptfenster.h"
+#include "ui/Massstab.h"
 #include "ui/Stationskarte.h"
 
 #include <QAbstractButton>
@@ -20,12 +22,14 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QtTest>
 
+#include <cmath>
 #include <fstream>
 
 namespace {
@@ -196,21 +200,27 @@ private slots:
     void ebenen_data() {
         QTest::addColumn<int>("fall");
         QTest::addColumn<QString>("sprache");
+        QTest::addColumn<double>("massstab");
         for (int f = 0; f < static_cast<int>(layoutfaelle().size()); ++f) {
             for (const char* s : {"d", "e"}) {
-                QTest::newRow(QStringLiteral("%1_%2")
-                                  .arg(layoutfaelle()[static_cast<std::size_t>(f)].name, s)
-                                  .toUtf8()
-                                  .constData())
-                    << f << QString::fromUtf8(s);
+                for (double m : {1.0, 1.5, 2.0}) {
+                    QTest::newRow(QStringLiteral("%1_%2_%3")
+                                      .arg(layoutfaelle()[static_cast<std::size_t>(f)].name, s)
+                                      .arg(m)
+                                      .toUtf8()
+                                      .constData())
+                        << f << QString::fromUtf8(s) << m;
+                }
             }
         }
     }
 
-    // Every input and output plane after opening the case, as a user sees it.
+    // Every input and output plane after opening the case, as a user sees it in a window of the
+    // design's size times `massstab`.
     void ebenen() {
         QFETCH(int, fall);
         QFETCH(QString, sprache);
+        QFETCH(double, massstab);
         SkriptDialogs dialoge;
         auto programm = programm_starten(&dialoge, *klima, sprache.toUtf8().constData());
         const Layoutfall& lf = layoutfaelle()[static_cast<std::size_t>(fall)];
@@ -226,20 +236,34 @@ private slots:
         programm->haupt->findChild<QAction*>(QStringLiteral("mnuFileOeffnen"))->trigger();
         QVERIFY2(programm->fehler.empty(), programm->fehler.c_str());
         Hauptfenster& haupt = *programm->haupt;
+        haupt.resize(static_cast<int>(std::lround(800 * massstab)),
+                     static_cast<int>(std::lround(546 * massstab)) +
+                         haupt.menuBar()->sizeHint().height());
+        QCoreApplication::processEvents();
+        // Really enlarged: the planes and their font, not only the window.
+        QCOMPARE(haupt.massstab().faktor(), massstab);
+        QCOMPARE(haupt.eingabe[0]->width(), static_cast<int>(std::lround(352 * massstab)));
+        QCOMPARE(haupt.eingabe[0]->font().pixelSize(),
+                 static_cast<int>(std::floor(QApplication::font().pixelSize() * massstab)));
+        const QString ort = QStringLiteral("%1 %2x").arg(lf.name).arg(massstab);
         QStringList fehler;
         for (int i = 0; i < 6; ++i) {
             haupt.eingabe_knopf[static_cast<std::size_t>(i)]->click();
             fehler << pruefen(haupt.eingabe[static_cast<std::size_t>(i)],
-                              QStringLiteral("%1 %2").arg(lf.name).arg(
+                              QStringLiteral("%1 %2").arg(ort).arg(
                                   haupt.eingabe[static_cast<std::size_t>(i)]->objectName()));
-            bild_speichern(haupt, QStringLiteral("layout_%1_%2_e%3").arg(lf.name, sprache).arg(i));
+            bild_speichern(
+                haupt,
+                QStringLiteral("layout_%1_%2_%3_e%4").arg(lf.name, sprache).arg(massstab).arg(i));
         }
         for (int i = 0; i < 5; ++i) {
             haupt.ausgabe_knopf[static_cast<std::size_t>(i)]->click();
             fehler << pruefen(haupt.ausgabe[static_cast<std::size_t>(i)],
-                              QStringLiteral("%1 %2").arg(lf.name).arg(
+                              QStringLiteral("%1 %2").arg(ort).arg(
                                   haupt.ausgabe[static_cast<std::size_t>(i)]->objectName()));
-            bild_speichern(haupt, QStringLiteral("layout_%1_%2_a%3").arg(lf.name, sprache).arg(i));
+            bild_speichern(
+                haupt,
+                QStringLiteral("layout_%1_%2_%3_a%4").arg(lf.name, sprache).arg(massstab).arg(i));
         }
         fehler.removeDuplicates();
         for (const QString& f : fehler) {

@@ -51,6 +51,60 @@ private slots:
         QCOMPARE(q.Point(-1, 3), WHITE);
     }
 
+    // Larger, every chart pixel of boxes, fills, straight lines and points is a square of the
+    // same colour, so that the hit tests read what they read at 1; a surface set larger after
+    // drawing shows what one drawn at that scale shows.
+    void vergroessert_gleiche_pixel_und_gleiche_zeichnung() {
+        auto zeichnen = [](Surface& s, bool schraeg) {
+            s.Cls();
+            s.Box(90, 60, 70, 40, BLACK);
+            s.FilledBox(30, 85, 44.6, 60, Rgb{255, 255, 0});
+            s.FilledBox(-20, -20, 3, 3, Rgb{1, 2, 3});
+            s.Line(20.5, 80.4, 20.5, 50, Rgb{0, 0, 255});
+            s.Line(60, 30, 10, 30, Rgb{255, 0, 0});
+            s.PSet(119, 89, Rgb{9, 9, 9});
+            if (schraeg) {
+                s.Line(10, 10, 60, 30, Rgb{0, 128, 0});
+                s.FillStyle = FillMode::Solid;
+                s.Circle(100, 20, 8, BLACK, -0.5, -2);
+                s.CurrentX = 64;
+                s.CurrentY = 70;
+                s.Print("Jan.");
+            }
+        };
+        QtImageSurface klein(120, 90);
+        zeichnen(klein, false);
+        for (double m : {1.5, 2.0, 3.0}) {
+            QtImageSurface gross(120, 90);
+            gross.massstab_setzen(m);
+            zeichnen(gross, false);
+            QCOMPARE(gross.bild().size(), QSize(static_cast<int>(std::lround(120 * m)),
+                                                static_cast<int>(std::lround(90 * m))));
+            for (int y = 0; y < 90; ++y) {
+                for (int x = 0; x < 120; ++x) {
+                    QCOMPARE(gross.Point(x, y), klein.Point(x, y));
+                }
+            }
+            // The line's end pixel stays free; a line is one chart pixel wide, no more.
+            QCOMPARE(gross.Point(10, 30), WHITE);
+            QCOMPARE(gross.Point(20, 49), WHITE);
+            QCOMPARE(gross.Point(22, 60), WHITE);
+
+            QtImageSurface danach(120, 90);
+            zeichnen(danach, true);
+            danach.massstab_setzen(m);
+            QtImageSurface direkt(120, 90);
+            direkt.massstab_setzen(m);
+            zeichnen(direkt, true);
+            QCOMPARE(danach.bild(), direkt.bild());
+            // Back at 1, every pixel is as drawn there.
+            danach.massstab_setzen(1);
+            QtImageSurface eins(120, 90);
+            zeichnen(eins, true);
+            QCOMPARE(danach.bild(), eins.bild());
+        }
+    }
+
     void fernes_und_ungueltiges_zeichnet_nichts_und_endet() {
         QtImageSurface q(50, 50);
         q.Cls();
