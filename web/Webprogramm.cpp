@@ -75,13 +75,8 @@ Webprogramm::Webprogramm(const std::string& sprache, const std::string& klima,
     hoehe_ = std::move(hoehe);
 }
 
-Webprogramm::~Webprogramm() {
-    // The refresh table gives the observer back to the planes before they go.
-    auffrischen_.reset();
-    rechenlauf_.reset();
-    io_.reset();
-    ebenen_.reset();
-}
+// Here, where the run's observer is a complete type.
+Webprogramm::~Webprogramm() = default;
 
 void Webprogramm::flaeche_anlegen(const std::string& feld, int breite, int hoehe, Rgb hintergrund) {
     flaechen_[feld] = std::make_unique<CanvasFlaeche>(breite, hoehe, hintergrund, breite_, hoehe_);
@@ -147,7 +142,7 @@ bool Webprogramm::starten() {
     for (const auto& [name, flaeche] : flaechen_) {
         flaeche->Cls();
     }
-    rechenlauf_ = std::make_unique<Rechenlauf>(p, ebenen_.get());
+    rechenlauf_ = std::make_unique<Rechenlauf>(p);
     auffrischen_ = std::make_unique<Auffrischtabelle>(
         p, ergebnisebenen(),
         [this](Ebene e) {
@@ -169,7 +164,7 @@ bool Webprogramm::starten() {
             }
             return false;
         },
-        einstellung_, rechenlauf_.get());
+        einstellung_);
     ebenen_->geometrie.Visible = true;
     const bool gut = ausfuehren([this] { io_->start(std::string(), "/", "/"); });
     p.Gestartet = 1;
