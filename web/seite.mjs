@@ -453,6 +453,9 @@ for (let i = 1; i <= 3; ++i) {
   ein.addEventListener('click', (e) => {
     e.preventDefault();
     handeln(() => programm.klima('Option', i, ''));
+    // The browser puts the radio back as it was after a prevented click, so the scope's
+    // marks follow once the click is over.
+    setTimeout(() => klima_folgen(zustand.klima));
   });
 }
 for (const n of ['Klimaregionwahl', 'Klimaregionwahl2']) {

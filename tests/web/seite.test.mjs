@@ -271,7 +271,7 @@ try {
     const liste = document.querySelector('[data-name="E_Klima"] select[data-name="Klimaregionwahl2"]');
     return {
       zeile: liste.options[liste.selectedIndex]?.text,
-      neu: [...window.velmaris.geladen].filter((d) => !vorher.includes(d)),
+      neu: [...window.velmaris.geladen].filter((d) => d.endsWith('.met') && !vorher.includes(d)),
     };
   }, europa.geladen);
   pruefen(europa.name !== '' && gewaehlt.zeile === europa.name && gewaehlt.neu.length === 1,
