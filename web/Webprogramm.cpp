@@ -4,10 +4,13 @@
 #include "app/cli/JsonWriter.h"
 #include "app/cli/ergebnis_json.h"
 #include "charts/A_Heizen.h"
+#include "charts/A_Uebersicht.h"
 #include "charts/Neuzeichnen.h"
 #include "charts/Tooltiptexte.h"
 #include "climate/E_Klima.h"
+#include "climate/E_Zoom_Klima.h"
 #include "climate/klimainfo_texte.h"
+#include "climate/stationskarten.h"
 #include "energy/energie.h"
 #include "language/c_Sprache.h"
 #include "planes/Zahlformat.h"
@@ -18,6 +21,7 @@
 #include "report/Temperaturverlauf.h"
 #include "ui/Rechenlauf.h"
 
+#include <cmath>
 #include <stdexcept>
 
 namespace {
@@ -56,6 +60,22 @@ std::optional<std::string> Seitendialoge::speichern_dialog(const std::string&, i
     return pfad;
 }
 
+namespace {
+
+// The station maps' pictures and their sizes, which also stand where a picture cannot be read.
+struct Stationsbild {
+    const char* pfad;
+    int breite, hoehe;
+};
+constexpr Stationsbild EUROPA{"/Grafiken/europa.bmp", 234, 201};
+constexpr Stationsbild WELT{"/Grafiken/welt.bmp", 650, 250};
+// The frame that shows the world map, narrower than the map, so that it scrolls.
+constexpr int WELT_RAHMEN = 336;
+constexpr int PUNKT_RADIUS = 2;
+constexpr int32_t WEISS = 0xffffff;
+
+} // namespace
+
 Webprogramm::Webprogramm(const std::string& sprache, const std::string& klima,
                          CanvasFlaeche::Textmass breite, CanvasFlaeche::Textmass hoehe,
                          Seitendialoge& dialoge)
@@ -67,6 +87,7 @@ Webprogramm::Webprogramm(const std::string& sprache, const std::string& klima,
     einstellung_.dezimal = p.Sprache == "e" ? '.' : ',';
     ebenen_ = std::make_unique<Eingabeflaechen>(p, einstellung_.dezimal);
     io_ = std::make_unique<FILEIO>(p, *ebenen_, dialoge_);
+    weltkarte_einrichten(ebenen_->klima, WELT.breite, WELT_RAHMEN);
     for (Steuerelement& s : steuerelemente(*ebenen_)) {
         steuer_.emplace(s.name, s);
     }
@@ -75,13 +96,8 @@ Webprogramm::Webprogramm(const std::string& sprache, const std::string& klima,
     hoehe_ = std::move(hoehe);
 }
 
-Webprogramm::~Webprogramm() {
-    // The refresh table gives the observer back to the planes before they go.
-    auffrischen_.reset();
-    rechenlauf_.reset();
-    io_.reset();
-    ebenen_.reset();
-}
+// Here, where the run's observer is a complete type.
+Webprogramm::~Webprogramm() = default;
 
 void Webprogramm::flaeche_anlegen(const std::string& feld, int breite, int hoehe, Rgb hintergrund) {
     flaechen_[feld] = std::make_unique<CanvasFlaeche>(breite, hoehe, hintergrund, breite_, hoehe_);
@@ -147,7 +163,7 @@ bool Webprogramm::starten() {
     for (const auto& [name, flaeche] : flaechen_) {
         flaeche->Cls();
     }
-    rechenlauf_ = std::make_unique<Rechenlauf>(p, ebenen_.get());
+    rechenlauf_ = std::make_unique<Rechenlauf>(p);
     auffrischen_ = std::make_unique<Auffrischtabelle>(
         p, ergebnisebenen(),
         [this](Ebene e) {
@@ -169,7 +185,7 @@ bool Webprogramm::starten() {
             }
             return false;
         },
-        einstellung_, rechenlauf_.get());
+        einstellung_);
     ebenen_->geometrie.Visible = true;
     const bool gut = ausfuehren([this] { io_->start(std::string(), "/", "/"); });
     p.Gestartet = 1;
@@ -380,6 +396,9 @@ bool Webprogramm::klima(const std::string& was, int wert, const std::string& tex
             Klimaregionwahl2_Click(k, p);
         });
     }
+    if (was == "HScroll1") {
+        return ausfuehren([&k, wert] { HScroll1_Change(k, wert); });
+    }
     if (was == "plz") {
         return ausfuehren([this, &k, &text] {
             k.plz = text.substr(0, 5);
@@ -402,6 +421,108 @@ bool Webprogramm::karte_klick(int x, int y) {
     return ausfuehren([this, x, y] { Picture1_MouseDown(ebenen_->klima, p, karte(), x, y); });
 }
 
+int32_t Webprogramm::stationsfarbe(bool europa, const std::vector<Kartenpunkt>& punkte,
+                                   double faktor, int x, int y) {
+    const Stationsbild& b = europa ? EUROPA : WELT;
+    auto bild = stationsbilder_.find(b.pfad);
+    if (bild == stationsbilder_.end()) {
+        Bitmap gelesen;
+        try {
+            gelesen = bitmap_lesen(b.pfad);
+        } catch (const FatalError&) {
+            // Without its picture the map is white, and its dots still name and pick stations.
+            gelesen =
+                Bitmap{b.breite, b.hoehe,
+                       std::vector<int32_t>(static_cast<std::size_t>(b.breite * b.hoehe), WEISS)};
+        }
+        bild = stationsbilder_.emplace(b.pfad, std::move(gelesen)).first;
+    }
+    // An enlarged picture repeats each pixel of the original.
+    const int32_t grund = bild->second.farbe(static_cast<int>(std::floor(x / faktor)),
+                                             static_cast<int>(std::floor(y / faktor)));
+    if (grund < 0) {
+        return grund;
+    }
+    for (auto punkt = punkte.rbegin(); punkt != punkte.rend(); ++punkt) {
+        const long dx = x - std::lround(punkt->x);
+        const long dy = y - std::lround(punkt->y);
+        if (dx * dx + dy * dy <= PUNKT_RADIUS * PUNKT_RADIUS) {
+            return punkt->farbe;
+        }
+    }
+    return grund;
+}
+
+int32_t Webprogramm::stationsfarbe(int x, int y) {
+    const E_Klima& k = ebenen_->klima;
+    const bool europa = p.Klimaauswahl == 2;
+    return stationsfarbe(
+        europa,
+        kartenpunkte(europa ? k.listen.Europa : k.listen.Welt, k.Klimaregionwahl2.ListIndex), 1.0,
+        x, y);
+}
+
+std::string Webprogramm::stationskarte_hover(int x, int y) {
+    E_Klima& k = ebenen_->klima;
+    if (k.sichtbar != 2 && k.sichtbar != 3) {
+        return std::string();
+    }
+    station_karte_hover(k, p, stationsfarbe(x, y), x, y);
+    return k.MausRegion;
+}
+
+bool Webprogramm::stationskarte_klick(int x, int y) {
+    E_Klima& k = ebenen_->klima;
+    if (k.sichtbar != 2 && k.sichtbar != 3) {
+        return true;
+    }
+    const int32_t farbe = stationsfarbe(x, y);
+    return ausfuehren(
+        [this, &k, farbe, x, y] { station_karte_klick(k, p, farbe, x, y, k.MausRegion); });
+}
+
+void Webprogramm::zoom_klima_oeffnen() {
+    if (ebenen_->klima.sichtbar == 3) {
+        zoom_klima_ = E_Zoom_Klima_oeffnen(ebenen_->klima);
+    }
+}
+
+std::vector<Kartenpunkt> Webprogramm::zoom_klima_punkte() const {
+    return kartenpunkte(ebenen_->klima.listen.Welt, zoom_klima_->Klimaregionwahl2.ListIndex,
+                        ZOOM_FAKTOR);
+}
+
+std::string Webprogramm::zoom_klima_hover(int x, int y) {
+    if (!zoom_klima_) {
+        return std::string();
+    }
+    const int32_t farbe = stationsfarbe(false, zoom_klima_punkte(), ZOOM_FAKTOR, x, y);
+    E_Zoom_Klima_hover(*zoom_klima_, ebenen_->klima, farbe, x, y);
+    return zoom_klima_->MausRegion;
+}
+
+void Webprogramm::zoom_klima_klick(int x, int y) {
+    if (zoom_klima_) {
+        const int32_t farbe = stationsfarbe(false, zoom_klima_punkte(), ZOOM_FAKTOR, x, y);
+        E_Zoom_Klima_klick(*zoom_klima_, ebenen_->klima, farbe, x, y);
+    }
+}
+
+void Webprogramm::zoom_klima_waehlen(int zeile) {
+    if (zoom_klima_) {
+        zoom_klima_->Klimaregionwahl2.waehlen(zeile);
+    }
+}
+
+bool Webprogramm::zoom_klima_schliessen(bool ok) {
+    const std::optional<E_Zoom_Klima> z = std::move(zoom_klima_);
+    zoom_klima_.reset();
+    if (!ok || !z) {
+        return true;
+    }
+    return ausfuehren([this, &z] { E_Zoom_Klima_Command1(*z, ebenen_->klima, p); });
+}
+
 std::string Webprogramm::karte_hover(int x, int y) {
     // A map picture that cannot be read names nothing here; the press reports it.
     try {
@@ -418,6 +539,24 @@ void Webprogramm::monat(int m) {
     p.Monat_Uebersicht = static_cast<int16_t>(m);
     if (gueltig_ && ausgabe_ == Uebersicht) {
         zeichnen(Flaeche::Temperaturen);
+    }
+    zoom_zeichnen();
+}
+
+void Webprogramm::zoom_zeigen(bool offen) {
+    zoom_offen_ = offen;
+    zoom_zeichnen();
+}
+
+void Webprogramm::zoom_zeichnen() {
+    CanvasFlaeche* f = flaeche(ZOOM_FLAECHE);
+    if (f == nullptr || !zoom_offen_) {
+        return;
+    }
+    f->Cls();
+    // Without valid results the window stays empty, as the overview's chart does.
+    if (gueltig_) {
+        TemperaturDiagrammZeichnen(p, *f, einstellung_);
     }
 }
 
@@ -665,6 +804,41 @@ std::string Webprogramm::zustand() const {
     j.field("sichtbar", k.sichtbar);
     j.field("Picture1", k.Picture1);
     j.field("plz", k.plz);
+    j.field("HScroll1", k.HScroll1);
+    j.field("HScroll1_max", k.HScroll1_max);
+    j.field("picture3f_breite", k.picture3f_breite);
+    // The dots of the station map shown, as [x, y, colour] with red in the colour's low byte.
+    j.key("punkte");
+    j.begin_array();
+    if (k.sichtbar == 2 || k.sichtbar == 3) {
+        for (const Kartenpunkt& punkt : kartenpunkte(
+                 k.sichtbar == 2 ? k.listen.Europa : k.listen.Welt, k.Klimaregionwahl2.ListIndex)) {
+            j.begin_array();
+            j.value(static_cast<int>(std::lround(punkt.x)));
+            j.value(static_cast<int>(std::lround(punkt.y)));
+            j.value(static_cast<int>(punkt.farbe));
+            j.end_array();
+        }
+    }
+    j.end_array();
+    // The enlarged world map while it is open: its choice and its dots.
+    if (zoom_klima_) {
+        j.key("zoom");
+        j.begin_object();
+        j.field("index", zoom_klima_->Klimaregionwahl2.ListIndex);
+        j.field("text", zoom_klima_->Klimaregionwahl2.Text);
+        j.key("punkte");
+        j.begin_array();
+        for (const Kartenpunkt& punkt : zoom_klima_punkte()) {
+            j.begin_array();
+            j.value(static_cast<int>(std::lround(punkt.x)));
+            j.value(static_cast<int>(std::lround(punkt.y)));
+            j.value(static_cast<int>(punkt.farbe));
+            j.end_array();
+        }
+        j.end_array();
+        j.end_object();
+    }
     for (const auto& [n, l] : std::initializer_list<std::pair<const char*, const Klimaliste*>>{
              {"Klimaregionwahl", &k.Klimaregionwahl}, {"Klimaregionwahl2", &k.Klimaregionwahl2}}) {
         j.key(n);

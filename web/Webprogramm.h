@@ -12,6 +12,8 @@
 #include "charts/Flaechen.h"
 #include "charts/Neuzeichnen.h"
 #include "climate/Bitmap.h"
+#include "climate/E_Zoom_Klima.h"
+#include "climate/stationskarten.h"
 #include "planes/Eingabeflaechen.h"
 #include "project/Dialogs.h"
 #include "project/FILEIO.h"
@@ -72,14 +74,30 @@ public:
     // "Label_Auswahl(i)", "Frame_Auswahl".
     bool klicken(const std::string& name);
     // The climate plane: "Option" with the scope 1..3, "Klimaregionwahl" or "Klimaregionwahl2"
-    // with the row chosen, "plz" with the post code typed and searched.
+    // with the row chosen, "plz" with the post code typed and searched, "HScroll1" with the
+    // world map's scroll value in twips.
     bool klima(const std::string& was, int wert, const std::string& text);
     // The German map: a press picks the region under the pixel (x, y) of the picture shown, the
     // hover names it (empty outside the regions).
     bool karte_klick(int x, int y);
     std::string karte_hover(int x, int y);
-    // A month button of the overview, 1..12.
+    // The Europe or the world map of the scope shown, at the pixel (x, y) of its picture: the
+    // hover names the station under the pointer (or nothing), a release on a dot picks it.
+    std::string stationskarte_hover(int x, int y);
+    bool stationskarte_klick(int x, int y);
+    // The enlarged world map, opened from the world scope: its own choice by a dot or a row of
+    // its list, handed to the plane when it closes with `ok`.
+    void zoom_klima_oeffnen();
+    std::string zoom_klima_hover(int x, int y);
+    void zoom_klima_klick(int x, int y);
+    void zoom_klima_waehlen(int zeile);
+    bool zoom_klima_schliessen(bool ok);
+    // A month button of the overview or of the enlarged temperature window, 1..12.
     void monat(int m);
+    // The enlarged temperature window opened or closed; open, its chart ZOOM_FLAECHE, which the
+    // page made, draws the overview's month.
+    static constexpr const char* ZOOM_FLAECHE = "A_Zoom.Temperaturen";
+    void zoom_zeigen(bool offen);
     // A plane's button: the plane comes up, its charts are drawn.
     bool eingabe_zeigen(int ebene);
     bool ausgabe_zeigen(int ebene);
@@ -138,9 +156,19 @@ private:
     int eingabe_ = Geometrie;
     int ausgabe_ = Uebersicht;
     bool gueltig_ = true;
+    bool zoom_offen_ = false;
     std::string fehler_;
+    void zoom_zeichnen();
     // The map picture shown, read again only when the picture changes.
     const Bitmap& karte();
     std::string karte_name_;
     std::unique_ptr<Bitmap> karte_;
+    // The colour under (x, y) of the station map shown: a dot's where one is painted, the last
+    // on top, else the picture's, read once. -1 outside the picture.
+    int32_t stationsfarbe(int x, int y);
+    int32_t stationsfarbe(bool europa, const std::vector<Kartenpunkt>& punkte, double faktor, int x,
+                          int y);
+    std::vector<Kartenpunkt> zoom_klima_punkte() const;
+    std::optional<E_Zoom_Klima> zoom_klima_;
+    std::map<std::string, Bitmap> stationsbilder_;
 };

@@ -4,6 +4,7 @@
 // memory, so that a redraw crosses over once per chart.
 #include "web/Webprogramm.h"
 
+#include "charts/Ebenenlage.h"
 #include "report/Textmass.h"
 
 #include <emscripten/bind.h>
@@ -90,6 +91,14 @@ public:
     }
     bool karte_klick(int x, int y) { return programm_->karte_klick(x, y); }
     std::string karte_hover(int x, int y) { return programm_->karte_hover(x, y); }
+    void zoom_zeigen(bool offen) { programm_->zoom_zeigen(offen); }
+    void zoom_klima_oeffnen() { programm_->zoom_klima_oeffnen(); }
+    std::string zoom_klima_hover(int x, int y) { return programm_->zoom_klima_hover(x, y); }
+    void zoom_klima_klick(int x, int y) { programm_->zoom_klima_klick(x, y); }
+    void zoom_klima_waehlen(int zeile) { programm_->zoom_klima_waehlen(zeile); }
+    bool zoom_klima_schliessen(bool ok) { return programm_->zoom_klima_schliessen(ok); }
+    bool stationskarte_klick(int x, int y) { return programm_->stationskarte_klick(x, y); }
+    std::string stationskarte_hover(int x, int y) { return programm_->stationskarte_hover(x, y); }
     void monat(int m) { programm_->monat(m); }
     bool eingabe_zeigen(int e) { return programm_->eingabe_zeigen(e); }
     bool ausgabe_zeigen(int e) { return programm_->ausgabe_zeigen(e); }
@@ -134,9 +143,24 @@ private:
     std::unique_ptr<Webprogramm> programm_;
 };
 
+// The places in the enlarged temperature window of `breite` x `hoehe` pixels, as JSON.
+std::string zoom_lage_json(int breite, int hoehe) {
+    const ZoomLage l = zoom_lage(breite, hoehe);
+    std::string j = "{\"Temperaturen\":[" + std::to_string(l.Temperaturen_Width) + "," +
+                    std::to_string(l.Temperaturen_Height) + "],\"Command_Schliessen\":[" +
+                    std::to_string(l.Schliessen_Left) + "," + std::to_string(l.Schliessen_Top) +
+                    "],\"Monatsbutton\":[";
+    for (std::size_t i = 0; i < l.Monatsbutton_Left.size(); ++i) {
+        j += (i > 0 ? ",[" : "[") + std::to_string(l.Monatsbutton_Left[i]) + "," +
+             std::to_string(l.Monatsbutton_Width[i]) + "]";
+    }
+    return j + "]}";
+}
+
 } // namespace
 
 EMSCRIPTEN_BINDINGS(velmaris) {
+    emscripten::function("zoom_lage", &zoom_lage_json);
     emscripten::class_<Seitenprogramm>("Programm")
         .constructor<std::string, std::string, val>()
         .function("flaeche_anlegen", &Seitenprogramm::flaeche_anlegen)
@@ -148,7 +172,15 @@ EMSCRIPTEN_BINDINGS(velmaris) {
         .function("klima", &Seitenprogramm::klima)
         .function("karte_klick", &Seitenprogramm::karte_klick)
         .function("karte_hover", &Seitenprogramm::karte_hover)
+        .function("stationskarte_klick", &Seitenprogramm::stationskarte_klick)
+        .function("stationskarte_hover", &Seitenprogramm::stationskarte_hover)
         .function("monat", &Seitenprogramm::monat)
+        .function("zoom_zeigen", &Seitenprogramm::zoom_zeigen)
+        .function("zoom_klima_oeffnen", &Seitenprogramm::zoom_klima_oeffnen)
+        .function("zoom_klima_hover", &Seitenprogramm::zoom_klima_hover)
+        .function("zoom_klima_klick", &Seitenprogramm::zoom_klima_klick)
+        .function("zoom_klima_waehlen", &Seitenprogramm::zoom_klima_waehlen)
+        .function("zoom_klima_schliessen", &Seitenprogramm::zoom_klima_schliessen)
         .function("eingabe_zeigen", &Seitenprogramm::eingabe_zeigen)
         .function("ausgabe_zeigen", &Seitenprogramm::ausgabe_zeigen)
         .function("berechnen", &Seitenprogramm::berechnen)

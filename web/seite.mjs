@@ -26,6 +26,7 @@ FS.mkdir('/klima');
 FS.mkdir('/projekte');
 FS.mkdir('/Grafiken');
 for (let i = 0; i <= 12; ++i) bei_bedarf(`klima${i}.bmp`, 'Grafiken');
+for (const n of ['europa.bmp', 'welt.bmp']) bei_bedarf(n, 'Grafiken');
 for (const [datei, kopf] of Object.entries(stationen)) {
   FS.writeFile('/klima/' + datei, Uint8Array.from(kopf, (c) => c.charCodeAt(0) & 0xff));
 }
@@ -93,11 +94,21 @@ function text_von(w) {
   return w.text ? (w.text[sprache] ?? w.text.d) : '';
 }
 
+function modellaktionen(name) {
+  return {
+    pfeil: (r) => programm.pfeil(name, r),
+    seite: (r) => programm.seite(name, r),
+    setzen: (wert) => programm.setzen(name, wert),
+  };
+}
+
 function ohne_kuerzel(t) {
   return t.replace(/&(.)/g, '$1');
 }
 
-function scrollbalken(w, el) {
+// A scroll bar whose steps go to `aktionen` (pfeil, seite, setzen) and whose state {wert, min,
+// max} comes from `stand`; a bound one goes to its model.
+function scrollbalken(w, el, aktionen = modellaktionen(w.modell), stand = () => zustand.steuer[w.modell]) {
   const senkrecht = !!w.senkrecht;
   el.classList.add(senkrecht ? 'senkrecht' : 'waagrecht');
   const zurueck = document.createElement('button');
@@ -115,22 +126,21 @@ function scrollbalken(w, el) {
   bahn.append(griff);
   el.append(zurueck, bahn, vor);
   el.tabIndex = 0;
-  const name = w.modell;
-  zurueck.addEventListener('click', () => handeln(() => programm.pfeil(name, -1)));
-  vor.addEventListener('click', () => handeln(() => programm.pfeil(name, 1)));
+  zurueck.addEventListener('click', () => handeln(() => aktionen.pfeil(-1)));
+  vor.addEventListener('click', () => handeln(() => aktionen.pfeil(1)));
   bahn.addEventListener('mousedown', (e) => {
     if (e.target !== bahn) {
       return;
     }
     const g = griff.getBoundingClientRect();
     const hinter = senkrecht ? e.clientY > g.bottom : e.clientX > g.right;
-    handeln(() => programm.seite(name, hinter ? 1 : -1));
+    handeln(() => aktionen.seite(hinter ? 1 : -1));
   });
   griff.addEventListener('pointerdown', (e) => {
     e.preventDefault();
     griff.setPointerCapture(e.pointerId);
     const bewegen = (m) => {
-      const s = zustand.steuer[name];
+      const s = stand();
       const b = bahn.getBoundingClientRect();
       const laenge = senkrecht ? b.height - griff.offsetHeight * skala() : b.width - griff.offsetWidth * skala();
       const pos = senkrecht ? m.clientY - b.top - griff.offsetHeight * skala() / 2
@@ -138,7 +148,7 @@ function scrollbalken(w, el) {
       const anteil = Math.min(1, Math.max(0, pos / Math.max(1, laenge)));
       const wert = Math.round(s.min + anteil * (s.max - s.min));
       if (wert !== s.wert) {
-        handeln(() => programm.setzen(name, wert));
+        handeln(() => aktionen.setzen(wert));
       }
     };
     griff.onpointermove = bewegen;
@@ -148,10 +158,10 @@ function scrollbalken(w, el) {
     const tasten = { ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1 };
     if (e.key in tasten) {
       e.preventDefault();
-      handeln(() => programm.pfeil(name, tasten[e.key]));
+      handeln(() => aktionen.pfeil(tasten[e.key]));
     } else if (e.key === 'PageUp' || e.key === 'PageDown') {
       e.preventDefault();
-      handeln(() => programm.seite(name, e.key === 'PageDown' ? 1 : -1));
+      handeln(() => aktionen.seite(e.key === 'PageDown' ? 1 : -1));
     }
   });
   el._abgleich = (s) => {
@@ -255,6 +265,55 @@ for (const [i, w] of layout.widgets.entries()) {
 }
 // The planes show by their buttons, not by their start state.
 for (const n of [...EINGABEN, ...AUSGABEN]) nach_name.get(n).hidden = true;
+
+// The enlarged temperature window: the overview's chart at window size with the month buttons
+// along its top, opened by a click on that chart, modal over the main window.
+const ZOOM = 'A_Zoom.Temperaturen';
+const zoom = document.createElement('div');
+zoom.id = 'zoom';
+zoom.hidden = true;
+const zoom_fenster = document.createElement('div');
+zoom_fenster.className = 'zoomfenster';
+zoom.append(zoom_fenster);
+{
+  const lage = JSON.parse(modul.zoom_lage(800, 500));
+  const platz = (el, x, y, b, h) => {
+    el.classList.add('w');
+    Object.assign(el.style, { left: x + 'px', top: y + 'px', width: b + 'px', height: h + 'px' });
+    zoom_fenster.append(el);
+  };
+  lage.Monatsbutton.forEach(([x, b], i) => {
+    const knopf = document.createElement('button');
+    knopf.className = 'knopf';
+    knopf.dataset.name = `Monatsbutton(${i + 1})`;
+    knopf.textContent = nach_name.get(`Monatsbutton(${i + 1})`).textContent;
+    knopf.addEventListener('click', () => monat_waehlen(i + 1));
+    platz(knopf, x, 0, b, 22);
+  });
+  const bild = document.createElement('canvas');
+  bild.dataset.feld = ZOOM;
+  platz(bild, 8, 22, ...lage.Temperaturen);
+  diagramme.set(ZOOM, { el: bild, w: { ort: [8, 22, ...lage.Temperaturen] } });
+  const zu = document.createElement('button');
+  zu.className = 'knopf';
+  zu.dataset.name = 'Command_Schliessen';
+  zu.textContent = sprache === 'e' ? 'Close' : 'Schließen';
+  zu.addEventListener('click', () => zoom_schliessen());
+  platz(zu, ...lage.Command_Schliessen, 128, 26);
+  document.getElementById('fenster').append(zoom);
+}
+function zoom_oeffnen() {
+  zoom.hidden = false;
+  programm.zoom_zeigen(true);
+  abgleichen();
+}
+function zoom_schliessen() {
+  zoom.hidden = true;
+  programm.zoom_zeigen(false);
+}
+document.addEventListener('keydown', (e) => {
+  if (e.key === 'Escape' && !zoom.hidden) zoom_schliessen();
+});
 
 const massstab = () => window.devicePixelRatio * skala();
 for (const [feld, { el, w }] of diagramme) {
@@ -394,6 +453,9 @@ for (let i = 1; i <= 3; ++i) {
   ein.addEventListener('click', (e) => {
     e.preventDefault();
     handeln(() => programm.klima('Option', i, ''));
+    // The browser puts the radio back as it was after a prevented click, so the scope's
+    // marks follow once the click is over.
+    setTimeout(() => klima_folgen(zustand.klima));
   });
 }
 for (const n of ['Klimaregionwahl', 'Klimaregionwahl2']) {
@@ -428,8 +490,159 @@ karte.addEventListener('mousedown', (e) => {
   const [x, y] = karte_punkt(e);
   handeln(() => programm.karte_klick(x, y));
 });
-im_klima('Picture2').style.backgroundImage = 'url("Grafiken/europa.png")';
-im_klima('Picture3').style.backgroundImage = 'url("Grafiken/welt.png")';
+// The Europe and the world map: their station dots painted pixel by pixel on a canvas over the
+// picture, as exactly as the program tells a dot from the land; the station under the pointer
+// is named beside it, a release on a dot picks it. The world map scrolls in its frame.
+const WELT_SCHRITT = 10 * 15;
+const maus_region = im_klima('MausRegion');
+const stationskarten = [['Picture2', 'europa.png'], ['Picture3', 'welt.png']].map(([n, bild]) => {
+  const el = im_klima(n);
+  el.style.backgroundImage = `url("Grafiken/${bild}")`;
+  const punkte = document.createElement('canvas');
+  punkte.width = Number.parseInt(el.style.width, 10);
+  punkte.height = Number.parseInt(el.style.height, 10);
+  punkte.className = 'punkte';
+  el.append(punkte);
+  const ort = (e) => {
+    const r = el.getBoundingClientRect();
+    return [Math.floor((e.clientX - r.left) / skala()), Math.floor((e.clientY - r.top) / skala())];
+  };
+  el.addEventListener('mousemove', (e) => {
+    const [x, y] = ort(e);
+    const t = programm.stationskarte_hover(x, y);
+    maus_region.hidden = t === '';
+    maus_region.textContent = t;
+    const r = el.getBoundingClientRect(), ebene = klimaebene.getBoundingClientRect();
+    maus_region.style.left = (r.left - ebene.left) / skala() + x + 'px';
+    maus_region.style.top = (r.top - ebene.top) / skala() + y + 20 + 'px';
+  });
+  el.addEventListener('mouseleave', () => { maus_region.hidden = true; });
+  el.addEventListener('mouseup', (e) => {
+    const [x, y] = ort(e);
+    handeln(() => programm.stationskarte_klick(x, y));
+  });
+  return { el, punkte, gemalt: '' };
+});
+const welt_scroll = im_klima('HScroll1');
+scrollbalken({}, welt_scroll, {
+  pfeil: (r) => programm.klima('HScroll1', zustand.klima.HScroll1 + r * WELT_SCHRITT, ''),
+  seite: (r) => programm.klima('HScroll1', zustand.klima.HScroll1 + r * zustand.klima.picture3f_breite, ''),
+  setzen: (wert) => programm.klima('HScroll1', wert, ''),
+}, () => ({ wert: zustand.klima.HScroll1, min: 0, max: zustand.klima.HScroll1_max }));
+
+// Paints the dots [x, y, colour] on the map's canvas, unless they are those painted last.
+function punkte_malen(karte, punkte) {
+  const neu = JSON.stringify(punkte);
+  if (karte.gemalt === neu) return;
+  karte.gemalt = neu;
+  const g = karte.punkte.getContext('2d');
+  g.clearRect(0, 0, karte.punkte.width, karte.punkte.height);
+  for (const [x, y, farbe] of punkte) {
+    g.fillStyle = `rgb(${farbe & 255},${(farbe >> 8) & 255},${(farbe >> 16) & 255})`;
+    for (let dy = -2; dy <= 2; ++dy) {
+      for (let dx = -2; dx <= 2; ++dx) {
+        if (dx * dx + dy * dy <= 4) g.fillRect(x + dx, y + dy, 1, 1);
+      }
+    }
+  }
+}
+
+// The enlarged world map: 1.5 times larger with the station list below it, modal, opened by the
+// small world picture. A dot or a row only chooses here; OK hands the choice to the plane.
+const ZOOM_FAKTOR = 1.5;
+const zoomklima = document.createElement('div');
+zoomklima.id = 'zoomklima';
+zoomklima.hidden = true;
+const zk_fenster = document.createElement('div');
+zk_fenster.className = 'zkfenster';
+zoomklima.append(zk_fenster);
+document.body.append(zoomklima);
+const zk_platz = (el, x, y, b, h) => {
+  el.classList.add('w');
+  Object.assign(el.style, { left: x + 'px', top: y + 'px', width: b + 'px', height: h + 'px' });
+  zk_fenster.append(el);
+  return el;
+};
+const ZK_BREITE = Math.round(650 * ZOOM_FAKTOR), ZK_HOEHE = Math.round(250 * ZOOM_FAKTOR);
+const ZK_UNTEN = 8 + ZK_HOEHE + 8;
+const zk_karte = zk_platz(document.createElement('div'), 8, 8, ZK_BREITE, ZK_HOEHE);
+zk_karte.dataset.name = 'Picture1';
+zk_karte.style.backgroundImage = 'url("Grafiken/welt.png")';
+zk_karte.style.backgroundSize = '100% 100%';
+const zk_punkte = { punkte: document.createElement('canvas'), gemalt: '' };
+zk_punkte.punkte.width = ZK_BREITE;
+zk_punkte.punkte.height = ZK_HOEHE;
+zk_punkte.punkte.className = 'punkte';
+zk_karte.append(zk_punkte.punkte);
+const zk_maus = zk_platz(document.createElement('div'), 0, 0, 0, 0);
+zk_maus.dataset.name = 'MausRegion';
+zk_maus.hidden = true;
+const zk_liste = zk_platz(document.createElement('select'), 8, ZK_UNTEN, 336, 22);
+zk_liste.dataset.name = 'Klimaregionwahl2';
+const welt_titel = sprache === 'e' ? 'Climate stations - World' : 'Klimastationen - Welt';
+zk_platz(document.createElement('div'), 352, ZK_UNTEN + 3, 300, 18).textContent = welt_titel;
+const zk_ok = zk_platz(document.createElement('button'), 8 + ZK_BREITE - 208, ZK_UNTEN, 100, 24);
+zk_ok.className += ' knopf';
+zk_ok.dataset.name = 'Command1';
+zk_ok.textContent = 'OK';
+const zk_abbrechen = zk_platz(document.createElement('button'), 8 + ZK_BREITE - 100, ZK_UNTEN, 100, 24);
+zk_abbrechen.className += ' knopf';
+zk_abbrechen.dataset.name = 'Command2';
+zk_abbrechen.textContent = sprache === 'e' ? 'Cancel' : 'Abbrechen';
+const zk_skala = () => Number(zk_fenster.dataset.skala || 1);
+function zoomklima_einpassen() {
+  const b = ZK_BREITE + 16, h = ZK_UNTEN + 32;
+  const s = Math.min(skala(), (0.96 * window.innerWidth) / b, (0.96 * window.innerHeight) / h);
+  zk_fenster.dataset.skala = s;
+  Object.assign(zk_fenster.style, {
+    width: b + 'px', height: h + 'px', transform: `scale(${s})`,
+    left: (window.innerWidth - b * s) / 2 + 'px', top: (window.innerHeight - h * s) / 2 + 'px',
+  });
+}
+function zoomklima_folgen(k) {
+  const zeilen = k.Klimaregionwahl2.zeilen;
+  if (zk_liste.options.length !== zeilen.length) zk_liste.replaceChildren(...zeilen.map((z) => new Option(z)));
+  zk_liste.selectedIndex = k.zoom.index;
+  punkte_malen(zk_punkte, k.zoom.punkte);
+}
+function zoomklima_zu(ok) {
+  zoomklima.hidden = true;
+  zk_maus.hidden = true;
+  handeln(() => programm.zoom_klima_schliessen(ok));
+}
+const zk_ort = (e) => {
+  const r = zk_karte.getBoundingClientRect();
+  return [Math.floor((e.clientX - r.left) / zk_skala()), Math.floor((e.clientY - r.top) / zk_skala())];
+};
+zk_karte.addEventListener('mousemove', (e) => {
+  const [x, y] = zk_ort(e);
+  const t = programm.zoom_klima_hover(x, y);
+  zk_maus.hidden = t === '';
+  zk_maus.textContent = t;
+  zk_maus.style.left = 8 + Math.min(x, ZK_BREITE - 150) + 'px';
+  zk_maus.style.top = 8 + (y + 40 > ZK_HOEHE ? y - 24 : y + 20) + 'px';
+});
+zk_karte.addEventListener('mouseleave', () => { zk_maus.hidden = true; });
+zk_karte.addEventListener('mouseup', (e) => {
+  const [x, y] = zk_ort(e);
+  handeln(() => programm.zoom_klima_klick(x, y));
+});
+zk_liste.addEventListener('change', () => handeln(() => programm.zoom_klima_waehlen(zk_liste.selectedIndex)));
+zk_ok.addEventListener('click', () => zoomklima_zu(true));
+zk_abbrechen.addEventListener('click', () => zoomklima_zu(false));
+document.addEventListener('keydown', (e) => {
+  if (e.key === 'Escape' && !zoomklima.hidden) zoomklima_zu(false);
+});
+window.addEventListener('resize', zoomklima_einpassen);
+const welt_klein = im_klima('Image1');
+welt_klein.style.backgroundImage = 'url("Grafiken/welt.png")';
+welt_klein.style.backgroundSize = '100% 100%';
+welt_klein.style.cursor = 'pointer';
+welt_klein.addEventListener('click', () => {
+  zoomklima_einpassen();
+  zoomklima.hidden = false;
+  handeln(() => programm.zoom_klima_oeffnen());
+});
 
 // What only the German scope shows: the map, the region list and the post code with captions.
 const deutsche_teile = [im_klima('Picture1'), im_klima('Klimaregionwahl'), plz, im_klima('PLZsuchen'),
@@ -443,8 +656,15 @@ function klima_folgen(k) {
   for (const el of deutsche_teile) verbergen(el, !deutschland);
   verbergen(im_klima('Klimaregionwahl2'), !(k.sichtbar === 2 || k.sichtbar === 3));
   verbergen(im_klima('Picture2'), k.sichtbar !== 2);
-  for (const n of ['HScroll1', 'Frame_Grafik']) verbergen(im_klima(n), true);
+  verbergen(im_klima('Frame_Grafik'), k.sichtbar !== 3);
+  verbergen(welt_scroll, k.sichtbar !== 3);
   verbergen(im_klima('picture3f'), k.sichtbar !== 3);
+  if (k.sichtbar === 2 || k.sichtbar === 3) punkte_malen(stationskarten[k.sichtbar - 2], k.punkte);
+  if (k.zoom) zoomklima_folgen(k);
+  if (k.sichtbar === 3) {
+    im_klima('Picture3').style.left = -k.HScroll1 / 15 + 'px';
+    welt_scroll._abgleich({ wert: k.HScroll1, min: 0, max: k.HScroll1_max });
+  }
   const bild = k.Picture1.slice(k.Picture1.indexOf('/') + 1).replace(/\.bmp$/i, '.png');
   if (karte.dataset.bild !== bild) {
     karte.style.backgroundImage = `url("Grafiken/${bild}")`;
@@ -592,6 +812,7 @@ function monat_waehlen(m) {
 for (let m = 1; m <= 12; ++m) {
   nach_name.get(`Monatsbutton(${m})`).addEventListener('click', () => monat_waehlen(m));
 }
+diagramme.get('Temperaturen').el.addEventListener('click', zoom_oeffnen);
 
 // Files the browser way: a project opened from the disk, saved as a download.
 function herunterladen(name, daten, typ) {

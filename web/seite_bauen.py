@@ -60,8 +60,8 @@ def main():
     grafiken = ziel / "Grafiken"
     grafiken.mkdir(exist_ok=True)
     for bmp in sorted((quelle / "Grafiken").glob("*.bmp")):
-        # The program reads the German maps' colours itself, when the user points at one.
-        if bmp.stem.startswith("klima"):
+        # The program reads the maps' colours itself, when the user points at one.
+        if bmp.stem.startswith("klima") or bmp.stem in ("europa", "welt"):
             shutil.copy2(bmp, grafiken / bmp.name)
         png = grafiken / (bmp.stem + ".png")
         if not png.exists() or png.stat().st_mtime < bmp.stat().st_mtime:

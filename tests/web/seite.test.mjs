@@ -1,7 +1,8 @@
 // The browser page in headless Chromium against the native program: it loads, a step on every
 // input plane changes the results as the native program calculates them, every output plane
 // draws, the overview's chart matches the desktop's picture, a project opens and saves with the
-// desktop's bytes, the language switch holds, a station is fetched when chosen.
+// desktop's bytes, the language switch holds, a station is fetched when chosen, the station maps
+// name and pick their stations, the enlarged temperature window opens and follows its months.
 //   node seite.test.mjs SITE NATIVE_CLI SEITENLAGE
 import { spawn, spawnSync } from 'node:child_process';
 import { existsSync, mkdtempSync, readFileSync, rmSync } from 'node:fs';
@@ -237,6 +238,80 @@ try {
   pruefen(karte !== null && nummer !== undefined && new RegExp(`Region\\s+${nummer}:`).test(karte.region) &&
     !karte.vorher.endsWith(karte.region),
     `the German map names a region (${karte?.name}) and a press picks it: ${karte?.region}`);
+
+  // The Europe and the world map: the pointer resting on a dot names its station (the program
+  // draws candidates at random, so it may take a few moves), a release on it picks the station,
+  // whose file is then fetched; the world map scrolls in its frame by its arrows.
+  const auf_punkt = async (option, karte, auswahl) => {
+    const ziel = await seite.evaluate((option, karte, auswahl) => {
+      const v = window.velmaris;
+      document.querySelector(`[data-name="E_Klima"] [data-name="Option${option}"] input`).click();
+      const k = v.zustand().klima;
+      const rot = k.punkte.at(-1);
+      const gelb = k.punkte.filter((p) => p[2] === 65535 && !(p[0] === rot[0] && p[1] === rot[1]));
+      const allein = gelb.filter((p) => gelb.every((q) => q === p || Math.abs(q[0] - p[0]) >= 6 || Math.abs(q[1] - p[1]) >= 6));
+      const sichtbar = allein.filter((p) => p[0] - k.HScroll1 / 15 >= 4 && p[0] - k.HScroll1 / 15 < 330);
+      const [x, y] = auswahl === 'letzter' ? sichtbar[sichtbar.length - 1] : sichtbar[0];
+      const bild = document.querySelector(`[data-name="E_Klima"] [data-name="${karte}"]`);
+      const r = bild.getBoundingClientRect();
+      const s = r.width / parseFloat(bild.style.width);
+      return { x: r.left + (x + 0.5) * s, y: r.top + (y + 0.5) * s, geladen: [...v.geladen] };
+    }, option, karte, auswahl);
+    let name = '';
+    for (let versuch = 0; versuch < 40 && name === ''; ++versuch) {
+      await seite.mouse.move(ziel.x, ziel.y + (versuch % 2) * 0.6);
+      name = await seite.$eval('[data-name="E_Klima"] [data-name="MausRegion"]', (l) => (l.hidden ? '' : l.textContent));
+    }
+    return { ...ziel, name };
+  };
+  const europa = await auf_punkt(2, 'Picture2', 'letzter');
+  await seite.mouse.down();
+  await seite.mouse.up();
+  const gewaehlt = await seite.evaluate((vorher) => {
+    const liste = document.querySelector('[data-name="E_Klima"] select[data-name="Klimaregionwahl2"]');
+    return {
+      zeile: liste.options[liste.selectedIndex]?.text,
+      neu: [...window.velmaris.geladen].filter((d) => d.endsWith('.met') && !vorher.includes(d)),
+    };
+  }, europa.geladen);
+  pruefen(europa.name !== '' && gewaehlt.zeile === europa.name && gewaehlt.neu.length === 1,
+    `a Europe dot names its station (${europa.name}), a click picks it (${gewaehlt.zeile}) and fetches its file (${gewaehlt.neu})`);
+  const welt = await auf_punkt(3, 'Picture3', 'erster');
+  const stationen = await seite.$$eval('[data-name="E_Klima"] select[data-name="Klimaregionwahl2"] option', (o) => o.map((x) => x.text));
+  pruefen(welt.name !== '' && stationen.includes(welt.name), `the world map names the station under the pointer (${welt.name})`);
+  const links = await seite.evaluate(() => {
+    window.velmaris.handeln(() => window.velmaris.programm.klima('HScroll1', 0, ''));
+    document.querySelectorAll('[data-name="E_Klima"] [data-name="HScroll1"] .pfeil')[1].click();
+    return document.querySelector('[data-name="E_Klima"] [data-name="Picture3"]').style.left;
+  });
+  pruefen(links === '-10px', `the world map's arrow scrolls it by ten pixels (${links})`);
+  await seite.mouse.move(0, 0);
+
+  // The enlarged temperature window: a click on the overview's chart opens it drawn, its month
+  // buttons choose the overview's month as well, its close button hides it.
+  const zoom = await seite.evaluate(() => {
+    const v = window.velmaris;
+    v.ausgabe_zeigen(0);
+    v.monat_waehlen(3);
+    document.querySelector('canvas[data-feld="Temperaturen"]').click();
+    const fenster = document.getElementById('zoom');
+    const offen = !fenster.hidden;
+    const vorher = v.gezeichnet.get('A_Zoom.Temperaturen');
+    fenster.querySelector('[data-name="Monatsbutton(8)"]').click();
+    const ergebnis = {
+      offen,
+      vorher,
+      nachher: v.gezeichnet.get('A_Zoom.Temperaturen'),
+      monat: v.zustand().monat,
+      marke: document.querySelector('[data-name="AktiverMonat1"]').textContent,
+      knopf: fenster.querySelector('[data-name="Monatsbutton(8)"]').textContent,
+    };
+    fenster.querySelector('[data-name="Command_Schliessen"]').click();
+    return { ...ergebnis, zu: fenster.hidden };
+  });
+  pruefen(zoom.offen && zoom.vorher > 0 && zoom.nachher > zoom.vorher && zoom.monat === 8 &&
+    zoom.marke === zoom.knopf && zoom.zu,
+    `the enlarged temperature window opens drawn, its month ${zoom.knopf} goes to the overview (${zoom.marke}), it closes`);
 
   // The language switch: the page comes back in English, and stays so.
   await seite.evaluate(() => document.querySelector('[data-name="mnuSpracheEnglisch"]').click());

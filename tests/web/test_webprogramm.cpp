@@ -1,11 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The browser page's program, run natively: a wrong control name or option index from the page
 // is refused without a fault, and every chart of a plane that comes up is drawn into its command
-// list, starting with the clearing of the surface.
+// list, starting with the clearing of the surface. On the Europe and the world map a station dot
+// names its station and a release on it picks it; the land beside a dot does neither. The
+// enlarged temperature window draws the overview's month while it is open; the enlarged world map
+// chooses for itself and hands its choice to the plane only on OK.
 #include "web/Webprogramm.h"
+
+#include "charts/A_Uebersicht.h"
+#include "climate/E_Klima.h"
+#include "project/c_glob.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -93,6 +101,124 @@ TEST(Webprogramm, DrawsEveryChartOfThePlaneShown) {
             EXPECT_EQ(f->befehle()[0], static_cast<double>(CanvasFlaeche::Befehl::Leeren)) << n;
             EXPECT_GT(f->fassung(), 1) << n;
         }
+    }
+}
+
+// A station whose dot stands apart: no other station within 6 pixels in both axes.
+int einzelne_station(const Stationsliste& liste) {
+    for (int i = 0; i < liste.anzahl(); ++i) {
+        bool allein = true;
+        for (int j = 0; j < liste.anzahl() && allein; ++j) {
+            allein = j == i || std::fabs(liste.punkt(i).first - liste.punkt(j).first) >= 6 ||
+                     std::fabs(liste.punkt(i).second - liste.punkt(j).second) >= 6;
+        }
+        if (allein) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+// The hover draws stations at random, so a name may take a few moves to show.
+std::string benannt(Webprogramm& w, int x, int y) {
+    for (int versuch = 0; versuch < 40; ++versuch) {
+        const std::string name = w.stationskarte_hover(x, y);
+        if (!name.empty()) {
+            return name;
+        }
+    }
+    return std::string();
+}
+
+TEST(Webprogramm, StationMapsNameAndPickTheDotUnderThePointer) {
+    Lauf l;
+    for (int bereich : {2, 3}) {
+        SCOPED_TRACE(bereich);
+        ASSERT_TRUE(l.w.klima("Option", bereich, "")) << l.w.fehler();
+        const E_Klima& k = l.w.ebenen().klima;
+        const Stationsliste& liste = bereich == 2 ? k.listen.Europa : k.listen.Welt;
+        const int i = einzelne_station(liste);
+        ASSERT_GE(i, 0);
+        const std::string& name = liste.Stationsname[static_cast<std::size_t>(i)];
+        const int x = static_cast<int>(std::lround(liste.punkt(i).first));
+        const int y = static_cast<int>(std::lround(liste.punkt(i).second));
+
+        // The disc of radius 2 is the dot: its inner rim names the station, the corner of its
+        // square does not, although it lies within the Europe map's tolerance.
+        EXPECT_EQ(benannt(l.w, x + 1, y + 1), name);
+        EXPECT_EQ(benannt(l.w, x + 2, y + 2), "");
+        EXPECT_EQ(benannt(l.w, -5, y), "");
+
+        // A release off the dot keeps the station, on the dot (after the hover named it) picks it.
+        const std::string vorher = l.w.p.Klimadatei;
+        ASSERT_TRUE(l.w.stationskarte_klick(x + 2, y + 2));
+        EXPECT_EQ(l.w.p.Klimadatei, vorher);
+        ASSERT_EQ(benannt(l.w, x, y), name);
+        ASSERT_TRUE(l.w.stationskarte_klick(x, y)) << l.w.fehler();
+        EXPECT_EQ(k.Klimaregionwahl2.ListIndex, i);
+        EXPECT_EQ(l.w.p.Klimadatei, liste.Dateiname[static_cast<std::size_t>(i)]);
+        // The red dot of the choice is painted last, over its yellow one.
+        const std::string rot = "[" + std::to_string(x) + "," + std::to_string(y) + ",255]]";
+        EXPECT_NE(l.w.zustand().find(rot), std::string::npos) << rot;
+    }
+    // The world map scrolls by the width it has beyond its frame, 650 - 336 pixels in twips.
+    ASSERT_TRUE(l.w.klima("HScroll1", 100000, ""));
+    EXPECT_EQ(l.w.ebenen().klima.HScroll1, (650 - 336) * 15);
+    ASSERT_TRUE(l.w.klima("HScroll1", -3, ""));
+    EXPECT_EQ(l.w.ebenen().klima.HScroll1, 0);
+}
+
+TEST(Webprogramm, EnlargedTemperatureWindowFollowsTheMonthWhileOpen) {
+    Lauf l;
+    l.w.flaeche_anlegen(Webprogramm::ZOOM_FLAECHE, 784, 444, WHITE);
+    const CanvasFlaeche& zoom = *l.w.flaeche(Webprogramm::ZOOM_FLAECHE);
+    l.w.ausgabe_zeigen(Webprogramm::Uebersicht);
+    l.w.monat(4);
+    EXPECT_EQ(zoom.fassung(), 0) << "drawn while closed";
+
+    l.w.zoom_zeigen(true);
+    l.w.monat(7);
+    EXPECT_EQ(l.w.p.Monat_Uebersicht, 7);
+    CanvasFlaeche juli(
+        784, 444, WHITE, [](const std::string&, const std::string& t) { return 6.0 * t.size(); },
+        [](const std::string&, const std::string&) { return 13.0; });
+    juli.Cls();
+    TemperaturDiagrammZeichnen(l.w.p, juli, Diagrammeinstellung{});
+    EXPECT_EQ(zoom.befehle(), juli.befehle());
+    EXPECT_EQ(zoom.texte(), juli.texte());
+
+    l.w.zoom_zeigen(false);
+    const int fassung = zoom.fassung();
+    l.w.monat(2);
+    EXPECT_EQ(zoom.fassung(), fassung);
+}
+
+TEST(Webprogramm, EnlargedWorldMapHandsItsChoiceOverOnlyOnOk) {
+    Lauf l;
+    ASSERT_TRUE(l.w.klima("Option", 3, "")) << l.w.fehler();
+    const Stationsliste& welt = l.w.ebenen().klima.listen.Welt;
+    const int i = einzelne_station(welt);
+    ASSERT_GE(i, 0);
+    // The dots stand 1.5 times as far apart as on the plane's map.
+    const int x = static_cast<int>(std::lround(welt.punkt(i).first * 1.5));
+    const int y = static_cast<int>(std::lround(welt.punkt(i).second * 1.5));
+    const std::string datei = welt.Dateiname[static_cast<std::size_t>(i)];
+    for (bool ok : {false, true}) {
+        SCOPED_TRACE(ok);
+        const std::string vorher = l.w.p.Klimadatei;
+        l.w.zoom_klima_oeffnen();
+        std::string name;
+        for (int versuch = 0; versuch < 40 && name.empty(); ++versuch) {
+            name = l.w.zoom_klima_hover(x, y);
+        }
+        ASSERT_EQ(name, welt.Stationsname[static_cast<std::size_t>(i)]);
+        l.w.zoom_klima_klick(x, y);
+        EXPECT_NE(l.w.zustand().find("\"zoom\":{\"index\":" + std::to_string(i) + ","),
+                  std::string::npos);
+        EXPECT_EQ(l.w.p.Klimadatei, vorher) << "chosen before the window closed";
+        ASSERT_TRUE(l.w.zoom_klima_schliessen(ok)) << l.w.fehler();
+        EXPECT_EQ(l.w.p.Klimadatei, ok ? datei : vorher);
+        EXPECT_EQ(l.w.zustand().find("\"zoom\""), std::string::npos);
     }
 }
 
