@@ -5,7 +5,7 @@
 
 Eingabeflaechen::Eingabeflaechen(Projekt& p, char dezimal_zeichen)
     : dezimal(dezimal_zeichen), daemmung(p, dezimal), fenster(p, dezimal),
-      geometrie(p, daemmung, dezimal), gebaeude(p, fenster, dezimal), energie(p), p_(p),
+      geometrie(p, daemmung, dezimal), gebaeude(p, fenster, dezimal), energie(p),
       beobachtung_(p.beobachter, *this) {
     E_Klima_erstellen(klima, p);
 }

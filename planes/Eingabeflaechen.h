@@ -37,6 +37,5 @@ public:
     void alles_berechnet(Projekt& p) override;
 
 private:
-    Projekt& p_;
     Beobachtung beobachtung_;
 };
