@@ -256,12 +256,16 @@ Druckachse energierahmen(Drucker& d, const Projekt& p, int n, double stufe) {
     return a;
 }
 
-// A segment of `wert` stacked on `sockel`, drawn only for a value above 0 as on the screen: a
-// month without heat demand (whose balance may end a rounding below 0) or an empty auxiliary
-// part leaves no bar, not even a sliver under the axis.
+// A bar lower than this, in mm, is thinner than the printed lines and would only smear the axis
+// with its colour and its outline.
+constexpr double KLEINSTE_BALKENHOEHE = 0.2;
+
+// A segment of `wert` stacked on `sockel`, drawn only for a value above 0 as on the screen and
+// only as high as a visible bar: a month without heat demand (whose balance may end a rounding
+// below or above 0) or an empty auxiliary part leaves no bar, not even a sliver at the axis.
 void energiebalken(Drucker& d, const Druckachse& a, double x1, double x2, double sockel,
                    double wert, Rgb farbe) {
-    if (wert > 0) {
+    if (wert > 0 && druck_y(a, sockel) - druck_y(a, sockel + wert) >= KLEINSTE_BALKENHOEHE) {
         druck_balken(d, a, x1, x2, sockel, sockel + wert, farbe);
     }
 }

@@ -216,8 +216,9 @@ TEST(Diagramm_Heizenergie, EndAndPrimaryEnergyWithElectricityOnTop) {
     erwarte(b[3], DRUCK_PRIMAER_STROM, 39, 235 - 13 * je, 42, 235 - 22 * je);
 }
 
-// A month whose balance ends a rounding below 0, and the empty auxiliary part of electricity as
-// the carrier, leave no bar: nothing is drawn under the axis or as a flat box on a bar's top.
+// A month whose balance ends a rounding below or above 0, and the empty auxiliary part of
+// electricity as the carrier, leave no bar: nothing is drawn at the axis or as a flat box on a
+// bar's top.
 TEST(Diagramm_Heizenergie, OnlyValuesAboveZeroGiveABar) {
     auto p = projekt_mit_monaten();
     for (int m = 1; m <= MONATE; ++m) {
@@ -225,6 +226,7 @@ TEST(Diagramm_Heizenergie, OnlyValuesAboveZeroGiveABar) {
     }
     p->Monat[1].Qh = 1000;
     p->Monat[6].Qh = -0.01f;
+    p->Monat[7].Qh = 0.01f;
     p->qhs_sum = 10;
     p->q_HE_Energietraeger = 12;
     p->q_HE_Strom = 3;
@@ -251,6 +253,7 @@ TEST(Diagramm_Heizenergie, OnlyValuesAboveZeroGiveABar) {
     p->Klimaeffizienz = 2.5f;
     p->Monat[7].Kuehlbedarf = 500;
     p->Monat[8].Kuehlbedarf = -0.01f;
+    p->Monat[9].Kuehlbedarf = 0.01f;
     RecordingPrinter k;
     Diagramm_Kuehlenergie(k, *p);
     const auto kb = balken(k);
