@@ -70,6 +70,39 @@ std::vector<std::string> an_blanks_umbrechen(const Drucker& d, const std::string
     return zeilen;
 }
 
+// The kind of window in lines for a column `breite` mm wide: the name wrapped as any text,
+// its bracket "(U = 1,4 W/(m² K))" on the name's last line where it fits, else on lines of its
+// own broken only at its outer blanks, so that the unit stays whole.
+std::vector<std::string> fensterart_zeilen(const Drucker& d, std::string text, double breite) {
+    const std::size_t klammer = text.find(" (");
+    std::string name = text.substr(0, klammer);
+    std::vector<std::string> zeilen;
+    ZeilenUmbruch(d, name, breite, zeilen);
+    if (klammer == std::string::npos) {
+        return zeilen;
+    }
+    std::vector<std::string> teile(1);
+    int tiefe = 0;
+    for (const char c : text.substr(klammer + 1)) {
+        tiefe += c == '(' ? 1 : c == ')' ? -1 : 0;
+        if (c == ' ' && tiefe == 1) {
+            teile.emplace_back();
+        } else {
+            teile.back() += c;
+        }
+    }
+    bool neue_zeile = d.TextWidth(zeilen.back() + " " + text.substr(klammer + 1)) >= breite;
+    for (const std::string& teil : teile) {
+        if (!neue_zeile && d.TextWidth(zeilen.back() + " " + teil) < breite) {
+            zeilen.back() += " " + teil;
+        } else {
+            zeilen.push_back(teil);
+        }
+        neue_zeile = false;
+    }
+    return zeilen;
+}
+
 void geometrie(Druckseite& s) {
     const Projekt& p = s.p;
     abschnitt(s, s.t("Geometrie:", "Geometry:"));
@@ -82,11 +115,13 @@ void geometrie(Druckseite& s) {
     if (p.Dachgeschoss) {
         wertzeile(s, s.t("Dachhöhe:", "Height of roof:"), s.wert(p.hd, "0.0") + " m");
         if (p.Dachfirst == 1 || p.Dachfirst == 2) {
-            // The sketch stands from x 143.8 beside these rows: the direction is wrapped short.
+            // The sketch stands beside these rows: the direction is wrapped to end clear of its
+            // letter "W".
+            constexpr double ABSTAND = 2;
             textzeilen(s, s.t("Dachfirst:", "Roof ridge:"),
                        p.Dachfirst == 1 ? s.t("in Nord-Süd-Richtung", "in north-south-direction")
                                         : s.t("in Ost-West-Richtung", "in east-west-direction"),
-                       30, 22);
+                       30, skizze_links(s.d) - ABSTAND - 120);
         }
     }
     wertzeile(s,
@@ -241,7 +276,7 @@ void Seite_Datenblatt2(Druckseite& s) {
                                ? s.t(FENSTERTYPEN[static_cast<std::size_t>(typ)].deutsch,
                                      FENSTERTYPEN[static_cast<std::size_t>(typ)].englisch)
                                : std::string();
-        ZeilenUmbruch(d, text, 23, s.ZeilenListe);
+        s.ZeilenListe = fensterart_zeilen(d, text, 23);
         double y = s.y;
         for (const std::string& zeile : s.ZeilenListe) {
             d.CurrentY = y;

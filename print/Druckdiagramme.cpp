@@ -256,6 +256,20 @@ Druckachse energierahmen(Drucker& d, const Projekt& p, int n, double stufe) {
     return a;
 }
 
+// A bar lower than this, in mm, is thinner than the printed lines and would only smear the axis
+// with its colour and its outline.
+constexpr double KLEINSTE_BALKENHOEHE = 0.2;
+
+// A segment of `wert` stacked on `sockel`, drawn only for a value above 0 as on the screen and
+// only as high as a visible bar: a month without heat demand (whose balance may end a rounding
+// below or above 0) or an empty auxiliary part leaves no bar, not even a sliver at the axis.
+void energiebalken(Drucker& d, const Druckachse& a, double x1, double x2, double sockel,
+                   double wert, Rgb farbe) {
+    if (wert > 0 && druck_y(a, sockel) - druck_y(a, sockel + wert) >= KLEINSTE_BALKENHOEHE) {
+        druck_balken(d, a, x1, x2, sockel, sockel + wert, farbe);
+    }
+}
+
 } // namespace
 
 void Diagramm_Heizenergie(Drucker& d, const Projekt& p) {
@@ -270,10 +284,10 @@ void Diagramm_Heizenergie(Drucker& d, const Projekt& p) {
     for (int m = 1; m <= MONATE; ++m) {
         const double x = monat_x(a.x, m);
         const double E = w.E[m], H = w.H[m], P = w.P[m], Q = w.Q[m];
-        druck_balken(d, a, x + 0.5, x + 3.5, 0, E, DRUCK_HEIZEN);
-        druck_balken(d, a, x + 0.5, x + 3.5, E, E + H, DRUCK_STROM);
-        druck_balken(d, a, x + 3.5, x + 6.5, 0, P, DRUCK_PRIMAER);
-        druck_balken(d, a, x + 3.5, x + 6.5, P, P + Q, DRUCK_PRIMAER_STROM);
+        energiebalken(d, a, x + 0.5, x + 3.5, 0, E, DRUCK_HEIZEN);
+        energiebalken(d, a, x + 0.5, x + 3.5, E, H, DRUCK_STROM);
+        energiebalken(d, a, x + 3.5, x + 6.5, 0, P, DRUCK_PRIMAER);
+        energiebalken(d, a, x + 3.5, x + 6.5, P, Q, DRUCK_PRIMAER_STROM);
     }
     const std::string ende = sprachtext(p.Sprache, "Endenergiebedarf", "End energy demand");
     const std::string strom = sprachtext(p.Sprache, "Strom", "electricity");
@@ -300,8 +314,8 @@ void Diagramm_Kuehlenergie(Drucker& d, const Projekt& p) {
     for (int m = 1; m <= MONATE; ++m) {
         const double x = monat_x(a.x, m);
         const double end = p.Monat[m].Kuehlbedarf / teiler;
-        druck_balken(d, a, x + 0.5, x + 3.5, 0, end, DRUCK_STROM);
-        druck_balken(d, a, x + 3.5, x + 6.5, 0, end * PRIMAERFAKTOR_STROM, DRUCK_PRIMAER_STROM);
+        energiebalken(d, a, x + 0.5, x + 3.5, 0, end, DRUCK_STROM);
+        energiebalken(d, a, x + 3.5, x + 6.5, 0, end * PRIMAERFAKTOR_STROM, DRUCK_PRIMAER_STROM);
     }
     const std::string ende = sprachtext(p.Sprache, "Endenergiebedarf", "End energy demand");
     const std::string primaer =

@@ -77,3 +77,7 @@ void Diagramm_Orientierung(Drucker& d, const Projekt& p);
 // The isometric sketch of the building at the top right of data sheet 1, from the reference
 // point (ScaleWidth - 25 - 31.2, 57), with the facade areas and the lengths.
 void Zeichnung_Haus(Drucker& d, const Projekt& p, char dezimal);
+
+// The left end of that sketch, its letter "W" left of the house included, in mm: the rows of
+// the data sheet beside it end short of it.
+double skizze_links(const Drucker& d);

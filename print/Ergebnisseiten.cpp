@@ -84,7 +84,9 @@ void Seite_Waermebilanz(Druckseite& s) {
 
 void Seite_Kuehlbilanz(Druckseite& s) {
     const Projekt& p = s.p;
-    const std::vector<double> anker = {78, 106, 140, 175};
+    // The two columns of the cooling demand carry the same heading: the second stands far
+    // enough right that the English one keeps a gap to the first.
+    const std::vector<double> anker = {78, 110, 140, 175};
     tabellenkopf(s, s.t("Monat", "Month"), anker,
                  {{s.t("Kühlbedarf", "Cooling demand"), s.t("Kühlbedarf", "Cooling demand"),
                    s.t("Überwärmung", "Overheating"), s.t("Kühlgradstunden", "Cooling degree h.")},

@@ -65,8 +65,23 @@ void Diagramm_Orientierung(Drucker& d, const Projekt& p) {
     }
 }
 
+namespace {
+
+// The letter of the west side stands this far left of the reference point.
+constexpr double W_LINKS = 3;
+
+double bezugspunkt_x(const Drucker& d) {
+    return d.ScaleWidth() - 25 - 31.2;
+}
+
+} // namespace
+
+double skizze_links(const Drucker& d) {
+    return bezugspunkt_x(d) - W_LINKS;
+}
+
 void Zeichnung_Haus(Drucker& d, const Projekt& p, char dezimal) {
-    const double X = d.ScaleWidth() - 25 - 31.2, Y = 57;
+    const double X = bezugspunkt_x(d), Y = 57;
     auto linie = [&](double x1, double y1, double x2, double y2) {
         d.Line(X + x1, Y + y1, X + x2, Y + y2, BLACK);
     };
@@ -104,5 +119,5 @@ void Zeichnung_Haus(Drucker& d, const Projekt& p, char dezimal) {
     text(-4, 32, laenge(p.b));
     text(31.8, 28.4, laenge(p.h));
     text(21, 38.5, "S");
-    text(-3, 20, "W");
+    text(-W_LINKS, 20, "W");
 }

@@ -216,6 +216,50 @@ TEST(Diagramm_Heizenergie, EndAndPrimaryEnergyWithElectricityOnTop) {
     erwarte(b[3], DRUCK_PRIMAER_STROM, 39, 235 - 13 * je, 42, 235 - 22 * je);
 }
 
+// A month whose balance ends a rounding below or above 0, and the empty auxiliary part of
+// electricity as the carrier, leave no bar: nothing is drawn at the axis or as a flat box on a
+// bar's top.
+TEST(Diagramm_Heizenergie, OnlyValuesAboveZeroGiveABar) {
+    auto p = projekt_mit_monaten();
+    for (int m = 1; m <= MONATE; ++m) {
+        p->Monat[m].Qh = 0;
+    }
+    p->Monat[1].Qh = 1000;
+    p->Monat[6].Qh = -0.01f;
+    p->Monat[7].Qh = 0.01f;
+    p->qhs_sum = 10;
+    p->q_HE_Energietraeger = 12;
+    p->q_HE_Strom = 3;
+    p->q_PE_Energietraeger = 24;
+    p->q_PE_Strom = 9;
+    for (const char* traeger : {"Heizöl", "Strom"}) {
+        p->Energie.Traegername = traeger;
+        RecordingPrinter d;
+        Diagramm_Heizenergie(d, *p);
+        const auto b = balken(d);
+        // January only; with electricity as the carrier its auxiliary part is in the carrier's.
+        const std::size_t segmente = std::string(traeger) == "Strom" ? 2 : 4;
+        EXPECT_EQ(std::count_if(b.begin(), b.end(), [](const Balken& x) { return x.x1 < 133; }),
+                  static_cast<long>(segmente))
+            << traeger;
+        for (const Balken& x : b) {
+            if (x.x1 < 133) {
+                EXPECT_LT(std::min(x.y1, x.y2), std::max(x.y1, x.y2)) << traeger;
+                EXPECT_LE(std::max(x.y1, x.y2), 235) << traeger;
+            }
+        }
+    }
+    // The cooling page likewise: no cooling, no bar.
+    p->Klimaeffizienz = 2.5f;
+    p->Monat[7].Kuehlbedarf = 500;
+    p->Monat[8].Kuehlbedarf = -0.01f;
+    p->Monat[9].Kuehlbedarf = 0.01f;
+    RecordingPrinter k;
+    Diagramm_Kuehlenergie(k, *p);
+    const auto kb = balken(k);
+    EXPECT_EQ(std::count_if(kb.begin(), kb.end(), [](const Balken& x) { return x.x1 < 133; }), 2);
+}
+
 TEST(Zeichnung_Haus, FixedLinesFromItsReferencePoint) {
     auto p = projekt_mit_monaten();
     p->f_sfa = 52;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The frame of a page, the page count and the order of the printed pages.
 #include "climate/klimaregionen.h"
+#include "planes/Fensterfassade.h"
 #include "print/Ausdrucken.h"
 #include "print/RecordingPrinter.h"
 #include "print/Seiten.h"
@@ -254,6 +255,116 @@ TEST(Datenblatt, TheWindowTableHasAColumnPerFacadeAndTheHeatSupplyIsWrapped) {
     }
     EXPECT_GT(zeilen, 1);
     EXPECT_EQ(text, dp.e->energie.Label_System.Caption);
+}
+
+// A printer whose font runs narrower than the recording printer's, as a real one may.
+class SchmaleSchrift : public RecordingPrinter {
+public:
+    explicit SchmaleSchrift(double faktor) : faktor_(faktor) {}
+    double TextWidth(const std::string& text) const override {
+        return RecordingPrinter::TextWidth(text) * faktor_;
+    }
+
+private:
+    double faktor_;
+};
+
+// Every kind of window, in both languages and whatever the font's width, reads whole down its
+// column, and its bracket of the U value never breaks inside the unit: the unit stands on one
+// line.
+TEST(Datenblatt, TheKindOfWindowKeepsItsUnitWholeInEveryLanguage) {
+    TempOrdner ordner;
+    for (const char* sprache : {"d", "e"}) {
+        Druckprojekt dp(ordner, sprache);
+        for (std::size_t typ = 0; typ < FENSTERTYPEN.size(); ++typ) {
+            const std::string art = sprache == std::string("d") ? FENSTERTYPEN[typ].deutsch
+                                                                : FENSTERTYPEN[typ].englisch;
+            SCOPED_TRACE(art);
+            dp.e->fenster.fassaden[Nord].typ_feld = static_cast<int16_t>(typ);
+            for (const double faktor : {0.7, 0.85, 1.0}) {
+                SchmaleSchrift d(faktor);
+                Druckseite s{d, *dp.p, *dp.e, ',', {}};
+                Seite_Datenblatt2(s);
+                // The north column: size 8 texts ending on the anchor at x 100.
+                std::vector<std::string> zeilen;
+                for (const auto& e : d.von_art(Art::Print)) {
+                    d.FontSize = e.size;
+                    if (e.size == 8 && std::fabs(e.x1 + d.TextWidth(e.text) - 100) < 1e-9) {
+                        zeilen.push_back(e.text);
+                    }
+                }
+                ASSERT_FALSE(zeilen.empty());
+                std::string ganz;
+                int einheit = 0;
+                for (std::string z : zeilen) {
+                    z.erase(z.find_last_not_of(' ') + 1);
+                    ganz += (ganz.empty() || ganz.back() == '-' ? "" : " ") + z;
+                    einheit += z.find("W/(m² K))") != std::string::npos ? 1 : 0;
+                    const std::string offen = "(m²";
+                    EXPECT_FALSE(z.size() >= offen.size() &&
+                                 z.compare(z.size() - offen.size(), offen.size(), offen) == 0)
+                        << z;
+                }
+                EXPECT_EQ(ganz, art) << faktor;
+                EXPECT_EQ(einheit, art.find("W/(m² K)") != std::string::npos ? 1 : 0) << faktor;
+            }
+        }
+    }
+}
+
+// The two columns of the cooling demand carry the same heading; they stay two millimetres apart
+// in both languages.
+TEST(Kuehlbilanz, TheTwoCoolingDemandHeadingsStandApart) {
+    TempOrdner ordner;
+    for (const char* sprache : {"d", "e"}) {
+        Druckprojekt dp(ordner, sprache);
+        RecordingPrinter d;
+        Druckseite s{d, *dp.p, *dp.e, ',', {}};
+        Seite_Kuehlbilanz(s);
+        auto kopf = d.prints(sprache == std::string("d") ? "Kühlbedarf" : "Cooling demand");
+        ASSERT_FALSE(kopf.empty());
+        // The table's head row; the diagram's legend repeats the word further down.
+        const double zeile = kopf.front().y1;
+        kopf.erase(std::remove_if(kopf.begin(), kopf.end(),
+                                  [zeile](const auto& e) { return e.y1 != zeile; }),
+                   kopf.end());
+        ASSERT_EQ(kopf.size(), 2u) << sprache;
+        d.FontSize = kopf[0].size;
+        EXPECT_GE(kopf[1].x1 - (kopf[0].x1 + d.TextWidth(kopf[0].text)), 2) << sprache;
+    }
+}
+
+// With a heated attic the direction of the ridge is wrapped beside the sketch: whatever the
+// font's width, every row beside the sketch's "W" ends two millimetres short of it.
+TEST(Datenblatt, TheRidgeDirectionEndsClearOfTheSketch) {
+    TempOrdner ordner;
+    for (const char* sprache : {"d", "e"}) {
+        Druckprojekt dp(ordner, sprache);
+        Projekt& p = *dp.p;
+        p.Dachgeschoss = true;
+        for (const int16_t first : {1, 2}) {
+            p.Dachfirst = first;
+            for (const double faktor : {0.7, 0.85, 1.0}) {
+                SCOPED_TRACE(std::string(sprache) + " ridge " + std::to_string(first) + " width " +
+                             std::to_string(faktor));
+                SchmaleSchrift d(faktor);
+                Druckseite s{d, p, *dp.e, ',', {}};
+                Seite_Datenblatt1(s);
+                const auto w = d.prints("W").at(0);
+                const auto first_zeile =
+                    d.prints(sprache == std::string("d") ? "Dachfirst:" : "Roof ridge:").at(0);
+                int zeilen = 0;
+                for (const auto& e : d.von_art(Art::Print)) {
+                    if (e.x1 == 120 && e.y1 >= first_zeile.y1 && e.y1 < first_zeile.y1 + 12) {
+                        d.FontSize = e.size;
+                        EXPECT_LE(e.x1 + d.TextWidth(e.text), w.x1 - 2) << e.text;
+                        ++zeilen;
+                    }
+                }
+                EXPECT_GE(zeilen, 2);
+            }
+        }
+    }
 }
 
 // Every region's two lines, wrapped where they are long, stand between x 120 and the frame at
