@@ -9,8 +9,53 @@
 
 #include <QPixmap>
 
+#include <algorithm>
+
 using namespace bau;
 using Art = Bindungen::Art;
+
+namespace {
+
+// The rows of the roof values, between the ridge frame and the house.
+constexpr int DACH_ZEILE[] = {128, 148};
+constexpr int DACH_TEXT_X = 6;
+constexpr int DACH_WERT_X = 108;
+constexpr int DACH_WERT_BREITE = 68;
+
+// A roof caption takes the width of its text and its row.
+void zeile_setzen(QLabel* l, int y) {
+    if (l->size() != l->sizeHint()) {
+        l->resize(l->sizeHint());
+    }
+    if (l->pos() != QPoint(DACH_TEXT_X, y)) {
+        l->move(DACH_TEXT_X, y);
+    }
+}
+
+// A two-line caption as wide as its longer line, so that it breaks before its bracket in either
+// language: "Höhe" over "(ohne Dach):".
+void zweizeilig_vor_klammer(QLabel* l) {
+    const QString t = l->text();
+    const int klammer = static_cast<int>(t.indexOf(QLatin1Char('(')));
+    if (klammer < 0) {
+        return;
+    }
+    // Blanks at the end of a line take no room; those at the start of the first line do.
+    QString erste = t.left(klammer);
+    while (erste.endsWith(QLatin1Char(' '))) {
+        erste.chop(1);
+    }
+    const QFontMetrics fm = l->fontMetrics();
+    const QMargins rand = l->contentsMargins();
+    const int breite =
+        std::max(fm.horizontalAdvance(erste), fm.horizontalAdvance(t.mid(klammer).trimmed())) +
+        rand.left() + rand.right() + 1;
+    if (l->width() != breite) {
+        l->resize(breite, l->height());
+    }
+}
+
+} // namespace
 
 GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string& grafiken,
                                    Ebenenbau& bau) {
@@ -51,17 +96,18 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
         balken(&e, Qt::Vertical, 236, HD_OBEN, 16, HAUS_VERSATZ + 1920 / TWIPS_JE_PIXEL - HD_OBEN);
     QLabel* hd_anz = anzeige(&e, 258, 190, 60);
     QScrollBar* h = balken(&e, Qt::Vertical, 236, 0, 16, 0);
-    text(&e, "Label22", "   Höhe     (ohne Dach):", 258, 216, 90, 30);
+    QLabel* label22 = text(&e, "Label22", "   Höhe     (ohne Dach):", 258, 216, 90, 30);
     QLabel* h_anz = anzeige(&e, 258, 250, 60);
     QScrollBar* l = balken(&e, Qt::Horizontal, 70, 314, 160, 16);
     QLabel* l_anz = text(&e, "l_anz", "", 236, 314, 110);
     QScrollBar* b = balken(&e, Qt::Horizontal, 70, 334, 160, 16);
     QLabel* b_anz = text(&e, "b_anz", "", 236, 334, 110);
-    // Labels over the house picture, placed by the ridge logic in pixels of the picture.
-    QLabel* label9 = text(haus, "Label9", "Dachfläche (West):", 48, 26);
-    QLabel* label6 = text(haus, "Label6", "Giebel", 72, 88);
-    QLabel* dachflaeche = text(haus, nullptr, "", 24, 76, 70);
-    QLabel* giebel = text(haus, nullptr, "", 72, 88, 70);
+    // The roof area and the gable with their values, in two rows above the house: over the
+    // picture they would cover its roof and facade. The ridge decides which caption names which.
+    QLabel* label9 = text(&e, "Label9", "Dachfläche (West):", DACH_TEXT_X, DACH_ZEILE[0]);
+    QLabel* label6 = text(&e, "Label6", "Giebel", DACH_TEXT_X, DACH_ZEILE[1]);
+    QLabel* dachflaeche = text(&e, nullptr, "", DACH_WERT_X, DACH_ZEILE[0], DACH_WERT_BREITE);
+    QLabel* giebel = text(&e, nullptr, "", DACH_WERT_X, DACH_ZEILE[1], DACH_WERT_BREITE);
 
     text(&e, "Label14", "Süd-Fassade:", 4, 352);
     QLabel* f_nfa = text(&e, nullptr, "", 84, 352, 80);
@@ -129,10 +175,10 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
         bd.label(*f_nutz, g.f_nutz_anz, Art::Ergebnis);
         bd.label(*v_geb, g.v_geb_anz, Art::Ergebnis);
         bd.label(*v_luft, g.v_luft_anz, Art::Ergebnis);
-        bd.label(*label9, g.Label9, Art::Entwurf, 1);
-        bd.label(*label6, g.Label6, Art::Entwurf, 1);
-        bd.label(*dachflaeche, g.dachflaeche_anz, Art::Ergebnis, 1);
-        bd.label(*giebel, g.Giebel_anz, Art::Ergebnis, 1);
+        bd.label(*label9, g.Label9, Art::Entwurf);
+        bd.label(*label6, g.Label6, Art::Entwurf);
+        bd.label(*dachflaeche, g.dachflaeche_anz, Art::Ergebnis);
+        bd.label(*giebel, g.Giebel_anz, Art::Ergebnis);
         bd.label(*av_anz, g.av_anz, Art::Ergebnis);
         bd.label(*kugel, g.AV_Kugel, Art::Ergebnis);
         bd.label(*wuerfel, g.AV_Wuerfel, Art::Ergebnis);
@@ -140,6 +186,10 @@ GeometrieDiagramme geometrie_bauen(QWidget& e, E_Geometrie& g, const std::string
         QLabel* label4 = frame3->parentWidget()->findChild<QLabel*>("Label4");
         bd.folgen([=, &g] {
             frame3->setEnabled(g.Frame3_Enabled);
+            const bool nord_sued = g.Option_Dachfirst.Value(1);
+            zeile_setzen(nord_sued ? label9 : label6, DACH_ZEILE[0]);
+            zeile_setzen(nord_sued ? label6 : label9, DACH_ZEILE[1]);
+            zweizeilig_vor_klammer(label22);
             label4->setVisible(g.Label4.Visible);
             // The height field is shorter while the roof field stands over it.
             const QRect ort(236, HAUS_VERSATZ + g.h_sb_Top / TWIPS_JE_PIXEL, 16,

@@ -16,6 +16,9 @@ QFont reportschrift() {
     QFont f;
     f.setFamilies({QStringLiteral("Times New Roman"), QStringLiteral("Liberation Serif")});
     f.setStyleHint(QFont::Serif);
+    // Without kerning: a blank before "A" would draw closer than before other letters, and the
+    // lines of the data sheet that open with the same blanks would not begin in one column.
+    f.setKerning(false);
     return f;
 }
 

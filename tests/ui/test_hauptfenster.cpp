@@ -178,10 +178,15 @@ private slots:
         // The insulation plane's upper closure is now the roof.
         QCOMPARE(finden<QLabel>(ebene(Hauptfenster::Daemmung), "liste2")->text(),
                  QStringLiteral("Dach"));
-        // The ridge east-west moves the labels over the house picture.
+        // The ridge east-west swaps the captions: the roof area keeps its row beside its value,
+        // the gable its own.
+        const QPoint flaeche = finden<QLabel>(geo, "Label9")->pos();
+        const QPoint giebel = finden<QLabel>(geo, "Label6")->pos();
+        QVERIFY(flaeche.y() != giebel.y());
         QTest::mouseClick(finden<QRadioButton>(geo, "Option_Dachfirst(2)"), Qt::LeftButton);
         QCOMPARE(finden<QLabel>(geo, "Label6")->text(), QStringLiteral("Dachfläche (Süd):"));
-        QCOMPARE(finden<QLabel>(geo, "Label6")->pos(), QPoint(68, 48));
+        QCOMPARE(finden<QLabel>(geo, "Label6")->pos(), flaeche);
+        QCOMPARE(finden<QLabel>(geo, "Label9")->pos(), giebel);
         QVERIFY(finden<QRadioButton>(geo, "Option_Dachfirst(2)")->isChecked());
         QVERIFY(!finden<QRadioButton>(geo, "Option_Dachfirst(1)")->isChecked());
         QTest::mouseClick(finden<QCheckBox>(geo, "Check_Dachgeschoss"), Qt::LeftButton);

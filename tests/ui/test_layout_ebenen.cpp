@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The layout check of the planes' real widgets on the offscreen platform, both languages, on the
 // layout cases, with the window at its design size and enlarged: no two input widgets overlap, no
-// widget leaves its plane or frame, no caption or list row is cut by its field and no two captions
-// of a plane overlap.
+// widget leaves its plane or frame, no caption or list row is cut by its field or broken inside
+// brackets, no two captions of a plane overlap and no caption lies on the drawing of a picture.
 #include "project/c_glob.h"
 #include "project/projektdatei.h"
 #include "tests/layout/Layoutfaelle.h"
@@ -20,6 +20,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -27,6 +28,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionComboBox>
+#include <QTextLayout>
 #include <QtTest>
 
 #include <cmath>
@@ -94,6 +96,64 @@ QRect textfeld(const QLabel* l, const QWidget* ebene) {
     return QRect(l->mapTo(ebene, r.topLeft()), r.size());
 }
 
+// Where the pixmap of a picture field is drawn, in the coordinates of `ebene`; empty without one.
+QRect bildfeld(const QLabel* l, const QWidget* ebene) {
+    if (l->pixmap().isNull()) {
+        return {};
+    }
+    const QRect r =
+        QStyle::alignedRect(l->layoutDirection(), l->alignment(),
+                            l->pixmap().deviceIndependentSize().toSize(), l->contentsRect());
+    return QRect(l->mapTo(ebene, r.topLeft()), r.size());
+}
+
+// Whether the text box `t` (plane coordinates) covers a drawn pixel of the picture `bild` placed
+// at `feld`: one of another colour than its top left corner, the paper of the drawing. A box
+// that only touches the drawing by a pixel passes.
+bool auf_zeichnung(const QRect& t, const QImage& bild, const QRect& feld) {
+    const QRect innen = t.adjusted(1, 1, -1, -1).intersected(feld);
+    if (innen.isEmpty()) {
+        return false;
+    }
+    const QRgb papier = bild.pixel(0, 0);
+    for (int y = innen.top(); y <= innen.bottom(); ++y) {
+        for (int x = innen.left(); x <= innen.right(); ++x) {
+            const int bx = (x - feld.left()) * bild.width() / feld.width();
+            const int by = (y - feld.top()) * bild.height() / feld.height();
+            if (bild.pixel(bx, by) != papier) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+// Whether a wrapped caption breaks a line inside brackets, as in "(ohne / Dach):". A framed
+// display field shows a long catalogue text and wraps it where it must.
+bool bricht_in_klammern(const QLabel* l) {
+    if (!l->wordWrap() || l->frameShape() != QFrame::NoFrame || l->textFormat() == Qt::RichText ||
+        !l->pixmap().isNull()) {
+        return false;
+    }
+    const QString t = l->text();
+    QTextLayout satz(t, l->font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WordWrap);
+    satz.setTextOption(option);
+    satz.beginLayout();
+    int tiefe = 0, gezaehlt = 0;
+    bool bruch = false;
+    for (QTextLine zeile = satz.createLine(); zeile.isValid(); zeile = satz.createLine()) {
+        zeile.setLineWidth(l->contentsRect().width());
+        for (; gezaehlt < zeile.textStart(); ++gezaehlt) {
+            tiefe += t[gezaehlt] == QLatin1Char('(') ? 1 : t[gezaehlt] == QLatin1Char(')') ? -1 : 0;
+        }
+        bruch = bruch || tiefe > 0;
+    }
+    satz.endLayout();
+    return bruch;
+}
+
 // The faults of one plane as it stands.
 QStringList pruefen(QWidget* ebene, const QString& ort) {
     QStringList fehler;
@@ -146,6 +206,10 @@ QStringList pruefen(QWidget* ebene, const QString& ort) {
             }
         }
         if (const auto* l = qobject_cast<const QLabel*>(w)) {
+            if (bricht_in_klammern(l)) {
+                fehler << QStringLiteral("%1: caption %2 breaks inside its brackets")
+                              .arg(ort, name(w));
+            }
             const QRect t = textfeld(l, l);
             if (!t.isEmpty() && !l->contentsRect().adjusted(-1, -1, 1, 1).contains(t)) {
                 fehler << QStringLiteral("%1: caption %2 is cut by its field (%3 of %4 px wide, "
@@ -155,6 +219,22 @@ QStringList pruefen(QWidget* ebene, const QString& ort) {
                               .arg(l->contentsRect().width())
                               .arg(t.height())
                               .arg(l->contentsRect().height());
+            }
+        }
+    }
+    // No caption or value lies on the drawing of a picture field.
+    for (QWidget* w : sichtbar) {
+        const auto* bild = qobject_cast<const QLabel*>(w);
+        const QRect feld = bild != nullptr ? bildfeld(bild, ebene) : QRect();
+        if (feld.isEmpty()) {
+            continue;
+        }
+        const QImage pixel = bild->pixmap().toImage();
+        for (QWidget* v : sichtbar) {
+            const auto* l = qobject_cast<const QLabel*>(v);
+            if (l != nullptr && l != bild && auf_zeichnung(textfeld(l, ebene), pixel, feld)) {
+                fehler << QStringLiteral("%1: caption %2 lies on the drawing of %3")
+                              .arg(ort, name(v), name(w));
             }
         }
     }

@@ -17,10 +17,16 @@
 #include <QFrame>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextEdit>
+#include <QTextLayout>
 #include <QTimer>
 #include <QtTest>
+
+#include <map>
+#include <set>
 
 namespace {} // namespace
 
@@ -169,6 +175,37 @@ private slots:
             QVERIFY(f.Temperaturverlauf1->toPlainText().contains(QStringLiteral("T fret")));
             bild_speichern(f, QStringLiteral("temperaturen_e"));
         });
+    }
+
+    // Lines that open with the same blanks begin their text in one column, whatever letter
+    // follows: the data sheet's "Anzahl Geschosse" and "A/V - Verhältnis" stand under "Höhe".
+    void gleiche_einzuege_beginnen_in_einer_spalte() {
+        for (const char* sprache : {"d", "e"}) {
+            starten(sprache);
+            oeffnen("mnuBerechnungsergebnisseExportieren", [&](ReportFenster& f) {
+                // By blanks and font size, in tenths of a pixel.
+                std::map<std::pair<int, int>, std::set<int>> spalten;
+                for (QTextBlock b = f.Report1->document()->begin(); b.isValid(); b = b.next()) {
+                    const QString t = b.text();
+                    const int blanks = static_cast<int>(t.indexOf(QRegularExpression("[^ ]")));
+                    if (blanks > 0 && b.layout()->lineCount() > 0) {
+                        const int groesse =
+                            qRound(b.begin().fragment().charFormat().fontPointSize() * 2);
+                        spalten[{blanks, groesse}].insert(
+                            qRound(b.layout()->lineAt(0).cursorToX(blanks) * 10));
+                    }
+                }
+                QVERIFY(spalten.count({5, 20}) == 1);
+                for (const auto& [art, x] : spalten) {
+                    QVERIFY2(x.size() == 1,
+                             qPrintable(QStringLiteral("%1: %2 columns after %3 blanks")
+                                            .arg(sprache)
+                                            .arg(x.size())
+                                            .arg(art.first)));
+                }
+            });
+            cleanup();
+        }
     }
 
     void messung_des_toolkits_gleicht_der_breitentabelle() {
