@@ -10,6 +10,7 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace bau;
 using Art = Bindungen::Art;
@@ -25,10 +26,10 @@ constexpr int DACH_WERT_BREITE = 68;
 // A roof caption takes the width of its text and its row.
 void zeile_setzen(QLabel* l, int y) {
     if (l->size() != l->sizeHint()) {
-        l->resize(l->sizeHint());
+        massstab::anpassen(*l);
     }
-    if (l->pos() != QPoint(DACH_TEXT_X, y)) {
-        l->move(DACH_TEXT_X, y);
+    if (massstab::entwurf(*l).topLeft() != QPoint(DACH_TEXT_X, y)) {
+        massstab::verschieben(*l, QPoint(DACH_TEXT_X, y));
     }
 }
 
@@ -51,7 +52,10 @@ void zweizeilig_vor_klammer(QLabel* l) {
         std::max(fm.horizontalAdvance(erste), fm.horizontalAdvance(t.mid(klammer).trimmed())) +
         rand.left() + rand.right() + 1;
     if (l->width() != breite) {
-        l->resize(breite, l->height());
+        // The text is measured at the label's scale; its design width follows.
+        QRect ort = massstab::entwurf(*l);
+        ort.setWidth(static_cast<int>(std::ceil(breite / massstab::von(*l))));
+        massstab::setzen(*l, ort);
     }
 }
 
