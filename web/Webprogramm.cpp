@@ -97,6 +97,37 @@ Webprogramm::Webprogramm(const std::string& sprache, const std::string& klima,
 }
 
 // Here, where the run's observer is a complete type.
+const std::vector<const char*> Webprogramm::DIAGRAMME{"AV_Picture",
+                                                      "Picture1",
+                                                      "Monatsbilanz",
+                                                      "JahrBilanz_Uebersicht",
+                                                      "UeberGrafik",
+                                                      "UeberJahr",
+                                                      "Temperaturen",
+                                                      "Heizbilanz",
+                                                      "JahrBilanz_Heizen",
+                                                      "NutzungsgradMonat",
+                                                      "NutzungsgradJahr",
+                                                      "Gewinne_N",
+                                                      "Verluste_N",
+                                                      "Gewinne_S",
+                                                      "Verluste_S",
+                                                      "Gewinne_O",
+                                                      "Verluste_O",
+                                                      "Gewinne_W",
+                                                      "Verluste_W",
+                                                      "StundenProTagMonat",
+                                                      "StundenProTagJahr",
+                                                      "KuehlbedarfMonat",
+                                                      "KuehlbedarfJahr",
+                                                      "KuehlGradStundenMonat",
+                                                      "KuehlGradStundenJahr",
+                                                      "Sankey",
+                                                      "Sankey_Kuehlen",
+                                                      "Monatsuebersicht",
+                                                      "Picture2",
+                                                      "Picture3"};
+
 Webprogramm::~Webprogramm() = default;
 
 void Webprogramm::flaeche_anlegen(const std::string& feld, int breite, int hoehe, Rgb hintergrund) {
@@ -109,36 +140,7 @@ CanvasFlaeche* Webprogramm::flaeche(const std::string& feld) {
 }
 
 bool Webprogramm::starten() {
-    for (const char* n : {"AV_Picture",
-                          "Picture1",
-                          "Monatsbilanz",
-                          "JahrBilanz_Uebersicht",
-                          "UeberGrafik",
-                          "UeberJahr",
-                          "Temperaturen",
-                          "Heizbilanz",
-                          "JahrBilanz_Heizen",
-                          "NutzungsgradMonat",
-                          "NutzungsgradJahr",
-                          "Gewinne_N",
-                          "Verluste_N",
-                          "Gewinne_S",
-                          "Verluste_S",
-                          "Gewinne_O",
-                          "Verluste_O",
-                          "Gewinne_W",
-                          "Verluste_W",
-                          "StundenProTagMonat",
-                          "StundenProTagJahr",
-                          "KuehlbedarfMonat",
-                          "KuehlbedarfJahr",
-                          "KuehlGradStundenMonat",
-                          "KuehlGradStundenJahr",
-                          "Sankey",
-                          "Sankey_Kuehlen",
-                          "Monatsuebersicht",
-                          "Picture2",
-                          "Picture3"}) {
+    for (const char* n : DIAGRAMME) {
         if (flaeche(n) == nullptr) {
             fehler_ = std::string("the page has no chart ") + n;
             return false;
@@ -288,7 +290,8 @@ void Webprogramm::gezeigte_zeichnen() {
     }
 }
 
-bool Webprogramm::pfeil(const std::string& name, int richtung) {
+bool Webprogramm::schieben(const std::string& name, void (ScrollField::*schritt)(int),
+                           int richtung) {
     const auto s = steuer_.find(name);
     if (s == steuer_.end() || s->second.art != Steuerelement::Art::Scroll) {
         return false;
@@ -298,19 +301,15 @@ bool Webprogramm::pfeil(const std::string& name, int richtung) {
     if (name.rfind("E_Fenster.", 0) == 0) {
         ebenen_->fenster.Fokus = feld;
     }
-    return ausfuehren([feld, richtung] { feld->pfeil(richtung); });
+    return ausfuehren([feld, schritt, richtung] { (feld->*schritt)(richtung); });
+}
+
+bool Webprogramm::pfeil(const std::string& name, int richtung) {
+    return schieben(name, &ScrollField::pfeil, richtung);
 }
 
 bool Webprogramm::seite(const std::string& name, int richtung) {
-    const auto s = steuer_.find(name);
-    if (s == steuer_.end() || s->second.art != Steuerelement::Art::Scroll) {
-        return false;
-    }
-    auto* feld = static_cast<ScrollField*>(s->second.modell);
-    if (name.rfind("E_Fenster.", 0) == 0) {
-        ebenen_->fenster.Fokus = feld;
-    }
-    return ausfuehren([feld, richtung] { feld->seite(richtung); });
+    return schieben(name, &ScrollField::seite, richtung);
 }
 
 bool Webprogramm::setzen(const std::string& name, int wert) {

@@ -25,6 +25,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 class Rechenlauf;
 
@@ -60,6 +61,8 @@ public:
     ~Webprogramm();
     // A chart of the page by its design name ("Monatsbilanz"), its size and background.
     void flaeche_anlegen(const std::string& feld, int breite, int hoehe, Rgb hintergrund);
+    // The design names of the charts the page must create before it starts.
+    static const std::vector<const char*> DIAGRAMME;
     // The new project built up and calculated, as at the desktop's start. Needs every chart.
     bool starten();
     Webprogramm(const Webprogramm&) = delete;
@@ -131,6 +134,8 @@ public:
 
 private:
     bool ausfuehren(const std::function<void()>& aktion);
+    // An arrow or page step of the scroll field `name`.
+    bool schieben(const std::string& name, void (ScrollField::*schritt)(int), int richtung);
     void nach_aktion();
     Ergebnisebenen ergebnisebenen();
     void zeichnen(Flaeche f);
