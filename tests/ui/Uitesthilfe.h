@@ -3,10 +3,12 @@
 
 #include "tests/support/Testprojekt.h"
 
+#include <QPoint>
 #include <QString>
 #include <memory>
 
 class Desktopprogramm;
+struct Stationsliste;
 class Dialogs;
 class QWidget;
 
@@ -22,3 +24,11 @@ void bild_speichern(QWidget& fenster, const QString& name);
 // file dialogs answered by `dialoge`.
 std::unique_ptr<Desktopprogramm> programm_starten(Dialogs* dialoge, const TempOrdner& klima,
                                                   const char* sprache);
+
+// A row of the station list, not `ausser`, whose dot no other dot touches (6 pixels apart in
+// some axis), left or right of `rand`, so that a click on it can only mean this station; -1 if
+// there is none.
+int einzelne_station(const Stationsliste& l, int ausser, bool links_vom_rand, double rand);
+
+// The pointer moved to `p` of the widget, without a button.
+void bewegen(QWidget* w, QPoint p);

@@ -40,32 +40,6 @@ std::function<double()> reihum(int anzahl) {
     return [anzahl, n = 0]() mutable { return (n++ % anzahl + 0.5) / anzahl; };
 }
 
-// A row of the list, not `ausser`, whose dot no other dot touches (6 pixels apart in some axis
-// times `faktor`), so that a click on it can only mean this station; -1 if there is none.
-int einzelne_station(const Stationsliste& l, int ausser, bool links_vom_rand, double rand) {
-    for (int i = 0; i < l.anzahl(); ++i) {
-        const auto [x, y] = l.punkt(i);
-        if (i == ausser || (links_vom_rand ? x >= rand : x <= rand) || x < 3 || y < 3) {
-            continue;
-        }
-        bool allein = true;
-        for (int j = 0; j < l.anzahl() && allein; ++j) {
-            const auto [xj, yj] = l.punkt(j);
-            allein = j == i || std::fabs(x - xj) >= 6 || std::fabs(y - yj) >= 6;
-        }
-        if (allein) {
-            return i;
-        }
-    }
-    return -1;
-}
-
-void bewegen(QWidget* w, QPoint p) {
-    QMouseEvent e(QEvent::MouseMove, QPointF(p), QPointF(w->mapToGlobal(p)), Qt::NoButton,
-                  Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
-}
-
 // A click on the option's circle: a radio button takes clicks on its circle and its text only.
 void waehlen(QRadioButton* o) {
     QTest::mouseClick(o, Qt::LeftButton, Qt::NoModifier, QPoint(6, o->height() / 2));

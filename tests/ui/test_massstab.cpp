@@ -41,28 +41,6 @@ QPoint mitte(QPoint p, double s) {
     return QPoint(static_cast<int>((p.x() + 0.5) * s), static_cast<int>((p.y() + 0.5) * s));
 }
 
-void bewegen(QWidget* w, QPoint p) {
-    QMouseEvent e(QEvent::MouseMove, QPointF(p), QPointF(w->mapToGlobal(p)), Qt::NoButton,
-                  Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
-}
-
-// A row of the list whose dot no other dot comes near, so that only it can be meant.
-int einzelne_station(const Stationsliste& l, int ausser) {
-    for (int i = 0; i < l.anzahl(); ++i) {
-        const auto [x, y] = l.punkt(i);
-        bool allein = i != ausser && x >= 3 && y >= 3;
-        for (int j = 0; j < l.anzahl() && allein; ++j) {
-            const auto [xj, yj] = l.punkt(j);
-            allein = j == i || std::fabs(x - xj) >= 6 || std::fabs(y - yj) >= 6;
-        }
-        if (allein) {
-            return i;
-        }
-    }
-    return -1;
-}
-
 } // namespace
 
 class TestMassstab : public QObject {
@@ -203,7 +181,7 @@ private slots:
         E_Klima& k = programm->ebenen->klima;
         k.zufall = [n = 0, a = k.listen.Europa.anzahl()]() mutable { return (n++ % a + 0.5) / a; };
         const Stationsliste& l = k.listen.Europa;
-        const int j = einzelne_station(l, k.Klimaregionwahl2.ListIndex);
+        const int j = einzelne_station(l, k.Klimaregionwahl2.ListIndex, true, 1e9);
         QVERIFY(j >= 0);
         const auto [x, y] = l.punkt(j);
         const QPoint dot(static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y)));
