@@ -5,7 +5,7 @@
 #include "charts/Diagrammtexte.h"
 #include "charts/Stufentabellen.h"
 #include "charts/Surface.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 namespace {

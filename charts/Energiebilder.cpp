@@ -5,7 +5,7 @@
 #include "charts/Stufentabellen.h"
 #include "charts/Surface.h"
 #include "energy/energie.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/Zahltext.h"
 #include "project/c_glob.h"
 

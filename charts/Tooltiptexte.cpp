@@ -4,7 +4,7 @@
 #include "charts/Diagrammtexte.h"
 #include "charts/Surface.h"
 #include "energy/energie.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 #include <cmath>

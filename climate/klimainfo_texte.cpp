@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/klimainfo_texte.h"
 
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 KlimainfoTexte klimainfo_texte(const Projekt& p, char dezimal) {

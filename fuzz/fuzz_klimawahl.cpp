@@ -3,7 +3,7 @@
 // pick, the post code table search and the item reads of the station list builder. Each reads or
 // refuses with FatalError, never more.
 #include "climate/Bitmap.h"
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "climate/plz_suche.h"
 #include "project/FatalError.h"
 #include "project/Textkanal.h"

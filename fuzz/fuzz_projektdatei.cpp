@@ -7,8 +7,8 @@
 #include "project/FatalError.h"
 #include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"
-#include "project/eingaben_anzeigen.h"
-#include "project/projektdatei.h"
+#include "project/lebenszyklus/eingaben_anzeigen.h"
+#include "project/lebenszyklus/projektdatei.h"
 
 #include <cstddef>
 #include <cstdint>

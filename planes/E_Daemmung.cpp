@@ -2,7 +2,7 @@
 #include "planes/E_Daemmung.h"
 
 #include "calc/c_mod.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 float E_Daemmung::waermebruecken_wert(int index) {

@@ -2,7 +2,7 @@
 #include "planes/E_Fenster.h"
 
 #include "calc/c_mod.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 E_Fenster::E_Fenster(Projekt& p, char dezimal)

@@ -3,7 +3,7 @@
 
 #include "calc/c_mod.h"
 #include "planes/E_Fenster.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 #include <cmath>

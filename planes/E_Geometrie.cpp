@@ -4,7 +4,7 @@
 #include "calc/c_mod.h"
 #include "climate/monatsstrahlung.h"
 #include "planes/E_Daemmung.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/Zahltext.h"
 #include "project/c_glob.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "calc/c_mod.h"
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "planes/E_Daemmung.h"
 #include "planes/E_Energie.h"
 #include "planes/E_Fenster.h"

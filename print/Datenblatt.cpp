@@ -3,7 +3,7 @@
 #include "climate/klimaregionen.h"
 #include "planes/Eingabeflaechen.h"
 #include "planes/Fensterfassade.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "print/Druckdiagramme.h"
 #include "print/Drucker.h"
 #include "print/Drucktext.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/Drucktext.h"
 
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "print/Drucker.h"
 
 namespace {

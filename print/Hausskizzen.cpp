@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts/Diagrammtexte.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "print/Druckdiagramme.h"
 #include "print/Drucker.h"
 #include "print/Drucktext.h"

@@ -4,7 +4,7 @@
 // The builder of the report's Rich Text, shared by the files of its pages.
 
 #include "climate/klimainfo_texte.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 #include "report/Report.h"
 #include "report/schreibeZeile.h"

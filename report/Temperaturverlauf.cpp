@@ -2,7 +2,7 @@
 #include "report/Temperaturverlauf.h"
 
 #include "climate/import/cp1252.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/Dateizugriff.h"
 #include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"

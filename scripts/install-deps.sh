@@ -6,7 +6,7 @@ pakete=(
     cmake ninja-build g++ pkg-config clang libclang-rt-14-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     qt6-base-dev libgl-dev fonts-liberation xvfb xauth
-    qt6-translations-l10n dpkg-dev file appstream poppler-utils
+    qt6-translations-l10n dpkg-dev file appstream poppler-utils python3
 )
 
 fehlend=()

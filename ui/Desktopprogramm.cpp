@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Desktopprogramm.h"
 
-#include "app/cli/pfade.h"
+#include "project/pfade.h"
 #include "charts/A_Heizen.h"
 #include "charts/Neuzeichnen.h"
 #include "language/c_Sprache.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
-#include "project/eingaben_anzeigen.h"
+#include "project/lebenszyklus/eingaben_anzeigen.h"
 #include "ui/ChartWidget.h"
 #include "ui/Drucken.h"
 #include "ui/Massstab.h"

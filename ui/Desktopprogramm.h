@@ -5,7 +5,7 @@
 #include "charts/Flaechen.h"
 #include "language/c_Sprache.h"
 #include "planes/Eingabeflaechen.h"
-#include "project/FILEIO.h"
+#include "project/lebenszyklus/FILEIO.h"
 #include "ui/Bindungen.h"
 #include "ui/Ebenen.h"
 #include "ui/Hauptfenster.h"
@@ -13,7 +13,7 @@
 #include "ui/KlimaimportFenster.h"
 #include "ui/QtDialogs.h"
 #include "ui/QtUebersetzung.h"
-#include "ui/Rechenlauf.h"
+#include "app/shell/Rechenlauf.h"
 #include "ui/StartFenster.h"
 #include "ui/ZoomFenster.h"
 

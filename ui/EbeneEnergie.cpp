@@ -4,7 +4,7 @@
 #include "charts/Tooltiptexte.h"
 #include "energy/energie.h"
 #include "planes/E_Energie.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 #include "ui/Bau.h"
 #include "ui/Bindungen.h"

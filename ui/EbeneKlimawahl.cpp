@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "climate/Bitmap.h"
-#include "climate/E_Klima.h"
-#include "climate/stationskarten.h"
-#include "planes/Zahlformat.h"
+#include "climate/ebene/E_Klima.h"
+#include "climate/ebene/stationskarten.h"
+#include "project/Zahlformat.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
 #include "ui/Bau.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ReportFenster.h"
 
-#include "project/FILEIO.h"
+#include "project/lebenszyklus/FILEIO.h"
 #include "project/c_glob.h"
 #include "report/Report.h"
 #include "report/RtfLeser.h"

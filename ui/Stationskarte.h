@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "climate/stationskarten.h"
+#include "climate/ebene/stationskarten.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ZoomKlima.h"
 
-#include "climate/stationskarten.h"
+#include "climate/ebene/stationskarten.h"
 #include "ui/Bau.h"
 
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "climate/E_Zoom_Klima.h"
+#include "climate/ebene/E_Zoom_Klima.h"
 #include "ui/Stationskarte.h"
 
 #include <QDialog>

@@ -1,25 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "web/Webprogramm.h"
 
-#include "app/cli/JsonWriter.h"
-#include "app/cli/ergebnis_json.h"
+#include "app/shell/JsonWriter.h"
+#include "app/shell/ergebnis_json.h"
 #include "charts/A_Heizen.h"
 #include "charts/A_Uebersicht.h"
 #include "charts/Neuzeichnen.h"
 #include "charts/Tooltiptexte.h"
-#include "climate/E_Klima.h"
-#include "climate/E_Zoom_Klima.h"
+#include "climate/ebene/E_Klima.h"
+#include "climate/ebene/E_Zoom_Klima.h"
 #include "climate/klimainfo_texte.h"
-#include "climate/stationskarten.h"
+#include "climate/ebene/stationskarten.h"
 #include "energy/energie.h"
 #include "language/c_Sprache.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/FatalError.h"
 #include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"
 #include "report/Report.h"
 #include "report/Temperaturverlauf.h"
-#include "ui/Rechenlauf.h"
+#include "app/shell/Rechenlauf.h"
 
 #include <cmath>
 #include <stdexcept>

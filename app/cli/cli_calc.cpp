@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
-#include "app/cli/cli_programm.h"
-#include "app/cli/ergebnis_json.h"
-#include "app/cli/pfade.h"
+#include "app/shell/cli_programm.h"
+#include "app/shell/ergebnis_json.h"
+#include "project/pfade.h"
 #include "calc/c_mod.h"
 #include "climate/klimadatei.h"
 #include "project/c_glob.h"

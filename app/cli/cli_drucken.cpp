@@ -3,7 +3,7 @@
 // printing program velmaris-drucken takes this process's place with the same arguments, so that
 // its messages and its exit status are the command's own.
 #include "app/cli/befehle.h"
-#include "app/cli/pfade.h"
+#include "project/pfade.h"
 
 #include <unistd.h>
 

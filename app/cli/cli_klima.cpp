@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
-#include "app/cli/pfade.h"
+#include "project/pfade.h"
 #include "climate/Bitmap.h"
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "climate/klimaregionen.h"
 #include "climate/plz_suche.h"
 #include "climate/stationslisten.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/cli/befehle.h"
 #include "app/cli/cli_dateiargumente.h"
-#include "app/cli/cli_programm.h"
-#include "app/cli/pfade.h"
+#include "app/shell/cli_programm.h"
+#include "project/pfade.h"
 #include "project/c_glob.h"
 #include "report/Report.h"
 

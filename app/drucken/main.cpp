@@ -3,11 +3,11 @@
 // printed pages go to a PDF file through the same composer as the print dialog, with Qt's PDF
 // writer on the offscreen platform; only this program loads Qt.
 #include "app/cli/cli_drucken_argumente.h"
-#include "app/cli/cli_programm.h"
-#include "app/cli/pfade.h"
+#include "app/shell/cli_programm.h"
+#include "project/pfade.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
-#include "ui/QtDrucker.h"
+#include "print/qt/QtDrucker.h"
 
 #include <QGuiApplication>
 

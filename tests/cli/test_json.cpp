@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The JSON writer: floats that read back to the same 32-bit value, nesting and escaping.
-#include "app/cli/JsonWriter.h"
+#include "app/shell/JsonWriter.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The delivered map pictures and the bounded BMP reader behind the region pick.
 #include "climate/Bitmap.h"
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "climate/klimaregionen.h"
-#include "climate/stationskarten.h"
+#include "climate/ebene/stationskarten.h"
 #include "climate/stationslisten.h"
 #include "project/FatalError.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The station maps of the climate plane without widgets: the hover by scope, the scrolled world
 // map, the enlarged world map and the station name the climate information plane shows.
-#include "climate/E_Klima.h"
-#include "climate/E_Zoom_Klima.h"
-#include "climate/stationskarten.h"
+#include "climate/ebene/E_Klima.h"
+#include "climate/ebene/E_Zoom_Klima.h"
+#include "climate/ebene/stationskarten.h"
 #include "project/c_glob.h"
 #include "tests/climate_choice/Klimahilfe.h"
 

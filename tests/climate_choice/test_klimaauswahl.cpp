@@ -2,8 +2,8 @@
 // The three scopes of the climate plane with their fallbacks, and the region, station and map
 // picks.
 #include "climate/Bitmap.h"
-#include "climate/E_Klima.h"
-#include "climate/stationskarten.h"
+#include "climate/ebene/E_Klima.h"
+#include "climate/ebene/stationskarten.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
 #include "tests/climate_choice/Klimahilfe.h"

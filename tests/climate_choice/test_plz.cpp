@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The post code table and the post code search of the climate plane.
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "climate/plz_suche.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"

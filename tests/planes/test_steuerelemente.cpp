@@ -4,7 +4,7 @@
 #include "planes/ListField.h"
 #include "planes/OptionGroup.h"
 #include "planes/ScrollField.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/Laufzeitfehler.h"
 
 #include <gtest/gtest.h>

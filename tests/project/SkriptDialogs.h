@@ -3,7 +3,7 @@
 
 #include "planes/Eingabeflaechen.h"
 #include "project/Dialogs.h"
-#include "project/FILEIO.h"
+#include "project/lebenszyklus/FILEIO.h"
 #include "tests/support/Testprojekt.h"
 
 #include <deque>

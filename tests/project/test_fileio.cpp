@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The project life cycle: new, open, save, save as, leave, the prompts and the handled faults.
-#include "project/FILEIO.h"
-#include "project/projektdatei.h"
+#include "project/lebenszyklus/FILEIO.h"
+#include "project/lebenszyklus/projektdatei.h"
 #include "tests/project/SkriptDialogs.h"
 
 #include <csignal>

@@ -2,7 +2,7 @@
 // The project file: its lines, its number forms, its two versions and its faults.
 #include "project/Laufzeitfehler.h"
 #include "project/Zahltext.h"
-#include "project/projektdatei.h"
+#include "project/lebenszyklus/projektdatei.h"
 #include "tests/project/SkriptDialogs.h"
 
 #include <gtest/gtest.h>

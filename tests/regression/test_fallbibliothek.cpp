@@ -6,7 +6,7 @@
 // After an intended change of results, regenerate and review the golden files:
 //   VELMARIS_GOLDEN_UPDATE=1 build/test/tests/test_regression
 //   git diff tests/regression/golden/
-#include "app/cli/ergebnis_json.h"
+#include "app/shell/ergebnis_json.h"
 #include "calc/c_mod.h"
 #include "tests/regression/fallbibliothek.h"
 #include "tests/support/Testprojekt.h"

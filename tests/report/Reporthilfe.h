@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/cli/cli_programm.h"
+#include "app/shell/cli_programm.h"
 #include "report/Report.h"
 #include "tests/support/Testprojekt.h"
 

@@ -4,7 +4,7 @@
 #include "tests/print/Druckhilfe.h"
 #include "ui/Drucken.h"
 #include "ui/Hauptfenster.h"
-#include "ui/QtDrucker.h"
+#include "print/qt/QtDrucker.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -3,7 +3,7 @@
 // field, a new system resetting the carrier, electricity hiding its lines, the captions in both
 // languages and the tooltip over the monthly chart.
 #include "energy/energie.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"

@@ -4,7 +4,7 @@
 // enlarged temperature window and the tooltips.
 #include "charts/A_Heizen.h"
 #include "charts/Tooltiptexte.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"

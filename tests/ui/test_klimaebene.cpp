@@ -4,12 +4,12 @@
 // their dots, hover and clicks, the scrolled world map, the enlarged world map, the fallback of a
 // missing station and the climate labels of both planes.
 #include "climate/Bitmap.h"
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "climate/klimaregionen.h"
-#include "climate/stationskarten.h"
-#include "planes/Zahlformat.h"
+#include "climate/ebene/stationskarten.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
-#include "project/projektdatei.h"
+#include "project/lebenszyklus/projektdatei.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
 #include "tests/ui/Uitesthilfe.h"

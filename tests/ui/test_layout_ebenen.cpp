@@ -4,7 +4,7 @@
 // widget leaves its plane or frame, no caption or list row is cut by its field or broken inside
 // brackets, no two captions of a plane overlap and no caption lies on the drawing of a picture.
 #include "project/c_glob.h"
-#include "project/projektdatei.h"
+#include "project/lebenszyklus/projektdatei.h"
 #include "tests/layout/Layoutfaelle.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"

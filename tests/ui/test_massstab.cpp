@@ -2,8 +2,8 @@
 // The main window at a larger scale: charts drawn at the screen's resolution, not enlarged
 // bitmaps; pointers on charts and maps hit what they hit at the design's size; the zoom of the
 // menu and its keys.
-#include "climate/E_Klima.h"
-#include "climate/stationskarten.h"
+#include "climate/ebene/E_Klima.h"
+#include "climate/ebene/stationskarten.h"
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"

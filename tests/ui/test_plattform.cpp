@@ -3,7 +3,7 @@
 // Exec line, Qt's own dialogs in the language of the run, the save dialog's first folder and
 // extension.
 #include "project/Dialogs.h"
-#include "project/FILEIO.h"
+#include "project/lebenszyklus/FILEIO.h"
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"

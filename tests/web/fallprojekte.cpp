@@ -4,7 +4,7 @@
 //   web-fallprojekte DIR   ->   DIR/trier.met, DIR/<case>.vel
 #include "calc/c_mod.h"
 #include "climate/klimadatei.h"
-#include "project/projektdatei.h"
+#include "project/lebenszyklus/projektdatei.h"
 #include "tests/regression/fallbibliothek.h"
 #include "tools/teststation/teststation.h"
 

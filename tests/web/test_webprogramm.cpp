@@ -8,7 +8,7 @@
 #include "web/Webprogramm.h"
 
 #include "charts/A_Uebersicht.h"
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "project/c_glob.h"
 
 #include <gtest/gtest.h>

@@ -15,7 +15,7 @@
 #include "tools/bildbogen/Bildablage.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
-#include "ui/QtDrucker.h"
+#include "print/qt/QtDrucker.h"
 #include "ui/ZoomFenster.h"
 
 #include <QApplication>

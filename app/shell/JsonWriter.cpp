@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/cli/JsonWriter.h"
+#include "app/shell/JsonWriter.h"
 
 #include "project/zahlwandlung.h"
 

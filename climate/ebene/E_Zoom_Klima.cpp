@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "climate/E_Zoom_Klima.h"
+#include "climate/ebene/E_Zoom_Klima.h"
 
-#include "climate/stationskarten.h"
+#include "climate/ebene/stationskarten.h"
 
 E_Zoom_Klima E_Zoom_Klima_oeffnen(const E_Klima& e) {
     E_Zoom_Klima z;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "climate/stationskarten.h"
+#include "climate/ebene/stationskarten.h"
 
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "project/c_glob.h"
 
 #include <algorithm>

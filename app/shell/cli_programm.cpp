@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/cli/cli_programm.h"
+#include "app/shell/cli_programm.h"
 
-#include "app/cli/pfade.h"
+#include "project/pfade.h"
 #include "language/c_Sprache.h"
 #include "project/c_glob.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "climate/wetter_laden.h"
+#include "climate/ebene/wetter_laden.h"
 
 #include "calc/c_mod.h"
 #include "climate/klimadatei.h"

@@ -5,7 +5,7 @@
 // plane's with the same selection, and its hover text. Positions are those of the world list
 // times ZOOM_FAKTOR; a pick here only selects, the confirmation hands it to the plane.
 
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 
 #include <cstdint>
 #include <string>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "project/FILEIO.h"
+#include "project/lebenszyklus/FILEIO.h"
 
 #include "calc/c_mod.h"
 #include "climate/klimadatei.h"
-#include "climate/wetter_laden.h"
+#include "climate/ebene/wetter_laden.h"
 #include "planes/Eingabeflaechen.h"
 #include "project/Dateiendung.h"
 #include "project/Dateizugriff.h"
@@ -11,8 +11,8 @@
 #include "project/FatalError.h"
 #include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"
-#include "project/eingaben_anzeigen.h"
-#include "project/projektdatei.h"
+#include "project/lebenszyklus/eingaben_anzeigen.h"
+#include "project/lebenszyklus/projektdatei.h"
 
 #include <cctype>
 #include <stdexcept>

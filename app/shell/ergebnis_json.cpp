@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/cli/ergebnis_json.h"
+#include "app/shell/ergebnis_json.h"
 
-#include "app/cli/JsonWriter.h"
+#include "app/shell/JsonWriter.h"
 #include "project/c_glob.h"
 
 namespace {

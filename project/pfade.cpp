@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/cli/pfade.h"
+#include "project/pfade.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/QtDrucker.h"
+#include "print/qt/QtDrucker.h"
 
 #include "project/Dateizugriff.h"
 #include "project/Laufzeitfehler.h"

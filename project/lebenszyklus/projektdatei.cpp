@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "project/projektdatei.h"
+#include "project/lebenszyklus/projektdatei.h"
 
 #include "planes/Eingabeflaechen.h"
 #include "project/Dialogs.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "project/eingaben_anzeigen.h"
+#include "project/lebenszyklus/eingaben_anzeigen.h"
 
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 #include "planes/Eingabeflaechen.h"
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "planes/Zahlformat.h"
+#include "project/Zahlformat.h"
 
 #include "project/zahlwandlung.h"
 

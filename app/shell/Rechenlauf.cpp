@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/Rechenlauf.h"
+#include "app/shell/Rechenlauf.h"
 
 #include "project/c_glob.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "climate/E_Klima.h"
+#include "climate/ebene/E_Klima.h"
 
 #include "climate/Bitmap.h"
 #include "climate/klimaregionen.h"
 #include "climate/plz_suche.h"
 #include "climate/stationsordner.h"
-#include "climate/wetter_laden.h"
+#include "climate/ebene/wetter_laden.h"
 #include "project/Dialogs.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
