@@ -7,8 +7,9 @@ const std::vector<Sonnenstunde>& Einfallsfaktoren::stunden(float L) {
     if (!stunden_belegt_ || stunden_L_ != L) {
         stunden_.resize(WERTE);
         for (int n = 1; n <= 365; ++n) {
+            const Sonnentag tag = sonnentag(n);
             for (int h = 1; h <= 24; ++h) {
-                stunden_[static_cast<std::size_t>((n - 1) * 24 + h - 1)] = sonnenstunde(n, L, h);
+                stunden_[static_cast<std::size_t>((n - 1) * 24 + h - 1)] = sonnenstunde(tag, L, h);
             }
         }
         stunden_L_ = L;

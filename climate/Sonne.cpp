@@ -60,10 +60,13 @@ double stundenwinkel(double T) {
 
 } // namespace
 
-float direktfaktor_horizontal(int n, float L, double t, float Breite) {
-    const double delta = deklination(n);
-    const double E = zeitgleichung(n);
-    const double T = t + (-L * 4.0 + E) / 60;
+Sonnentag sonnentag(int n) {
+    return {deklination(n), zeitgleichung(n)};
+}
+
+float direktfaktor_horizontal(const Sonnentag& tag, float L, double t, float Breite) {
+    const double delta = tag.delta;
+    const double T = t + (-L * 4.0 + tag.E) / 60;
     const double w = stundenwinkel(T);
     const double phi = Breite;
     const double cosz =
@@ -74,13 +77,20 @@ float direktfaktor_horizontal(int n, float L, double t, float Breite) {
     return 0;
 }
 
-Sonnenstunde sonnenstunde(int n, float L, int h) {
-    const float delta = static_cast<float>(deklination(n));
-    const double E = zeitgleichung(n);
+float direktfaktor_horizontal(int n, float L, double t, float Breite) {
+    return direktfaktor_horizontal(sonnentag(n), L, t, Breite);
+}
+
+Sonnenstunde sonnenstunde(const Sonnentag& tag, float L, int h) {
+    const float delta = static_cast<float>(tag.delta);
     // The integer hour: the plane factor is sampled at the end of the hour.
-    const double T = h + (-L * 4.0 + E) / 60;
+    const double T = h + (-L * 4.0 + tag.E) / 60;
     const float w = static_cast<float>(stundenwinkel(T));
     return {std::sin(delta), std::cos(delta), std::sin(w), std::cos(w)};
+}
+
+Sonnenstunde sonnenstunde(int n, float L, int h) {
+    return sonnenstunde(sonnentag(n), L, h);
 }
 
 Ebenenlage ebenenlage(int16_t orient, double azimut, double neigung) {

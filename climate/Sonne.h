@@ -35,7 +35,15 @@ Sonnenaufgang sonnenaufgang(int n, float Breite, float L);
 // of the sunlit part in the hours of sunrise and sunset (sunset wins).
 double stichzeit(int h, const Sonnenaufgang& s);
 
+// What a day shares among its 24 hours: the declination and the equation of time (minutes).
+struct Sonnentag {
+    double delta = 0;
+    double E = 0;
+};
+Sonnentag sonnentag(int n);
+
 // 1 / cos of the zenith angle at day n and real clock time t, or 0 with the sun down.
+float direktfaktor_horizontal(const Sonnentag& tag, float L, double t, float Breite);
 float direktfaktor_horizontal(int n, float L, double t, float Breite);
 
 // The sun terms one hour shares among all planes.
@@ -43,6 +51,7 @@ struct Sonnenstunde {
     double sin_d = 0, cos_d = 0; // declination
     double sin_w = 0, cos_w = 0; // hour angle
 };
+Sonnenstunde sonnenstunde(const Sonnentag& tag, float L, int h);
 Sonnenstunde sonnenstunde(int n, float L, int h);
 
 // The terms of one plane.

@@ -50,20 +50,28 @@ void dachraum_setzen(Projekt& p) {
 
 std::vector<std::string_view> zeilen_teilen(std::string_view text, std::size_t hoechstens) {
     std::vector<std::string_view> zeilen;
-    // A station file has 8766 lines: one allocation instead of fourteen growing copies.
-    zeilen.reserve(std::min(
-        hoechstens, static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1));
-    std::size_t anfang = 0;
-    for (std::size_t i = 0; i < text.size() && zeilen.size() < hoechstens; ++i) {
-        if (text[i] == '\r' || text[i] == '\n') {
-            zeilen.push_back(text.substr(anfang, i - anfang));
-            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
-                ++i;
-            }
-            anfang = i + 1;
-        }
+    if (hoechstens == 0) {
+        return zeilen;
     }
-    if (anfang < text.size() && zeilen.size() < hoechstens) {
+    // A station file has 8766 lines of some 22 bytes: a guess from the size spares most of the
+    // growing copies without a counting pass.
+    zeilen.reserve(std::min(hoechstens, text.size() / 20 + 1));
+    std::size_t anfang = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (static_cast<unsigned char>(c) > '\r' || (c != '\r' && c != '\n')) {
+            continue;
+        }
+        zeilen.push_back(text.substr(anfang, i - anfang));
+        if (zeilen.size() == hoechstens) {
+            return zeilen;
+        }
+        if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+            ++i;
+        }
+        anfang = i + 1;
+    }
+    if (anfang < text.size()) {
         zeilen.push_back(text.substr(anfang));
     }
     return zeilen;
@@ -121,6 +129,7 @@ void klimadatei_lesen(Projekt& p, std::string_view text, const std::string& name
         for (int d = 1; d <= TAGE[m - 1]; ++d) {
             ++n;
             const Sonnenaufgang sonne = sonnenaufgang(n, Breite, L);
+            const Sonnentag tag = sonnentag(n);
             for (int h = 1; h <= 24; ++h) {
                 const std::string_view zeile =
                     (n == 365 && h == 24) ? gespeichert : zeilen[naechste++];
@@ -131,7 +140,7 @@ void klimadatei_lesen(Projekt& p, std::string_view text, const std::string& name
                 if (Bh < 0) {
                     Bh = 0;
                 }
-                const float faktor = direktfaktor_horizontal(n, L, stichzeit(h, sonne), Breite);
+                const float faktor = direktfaktor_horizontal(tag, L, stichzeit(h, sonne), Breite);
                 w.Direkt = to_f32(faktor * Bh, "direct radiation");
                 // Near the horizon 1 / cos z blows up: such a value is dropped, not capped.
                 if (w.Direkt > 1370) {

@@ -5,7 +5,10 @@
 
 #include <string>
 
-double numerisch_lesen(std::string_view text) {
+namespace {
+
+// The number with blanks inside it ("1 2.5" reads 12.5): gathered without them.
+double mit_blanks_lesen(std::string_view text) {
     std::string zahl;
     bool ziffern = false;
     bool punkt = false;
@@ -34,6 +37,47 @@ double numerisch_lesen(std::string_view text) {
     }
     double wert = 0;
     zahlwandlung::lesen(anfang, zahl.data() + zahl.size(), wert);
+    return wert;
+}
+
+} // namespace
+
+double numerisch_lesen(std::string_view text) {
+    // A station file's fields are blanks and then one unbroken number: read in place. Anything
+    // else takes the general path.
+    std::size_t i = text.find_first_not_of(" \t");
+    if (i == std::string_view::npos) {
+        return 0;
+    }
+    const std::size_t anfang = text[i] == '+' ? i + 1 : i;
+    if (text[i] == '-' || text[i] == '+') {
+        ++i;
+    }
+    bool ziffern = false;
+    bool punkt = false;
+    for (; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c >= '0' && c <= '9') {
+            ziffern = true;
+        } else if (c == '.' && !punkt) {
+            punkt = true;
+        } else if (c == ' ' || c == '\t') {
+            // Blanks end the number unless more of it follows them.
+            const std::size_t j = text.find_first_not_of(" \t", i);
+            if (j != std::string_view::npos &&
+                ((text[j] >= '0' && text[j] <= '9') || (text[j] == '.' && !punkt))) {
+                return mit_blanks_lesen(text);
+            }
+            break;
+        } else {
+            break;
+        }
+    }
+    if (!ziffern) {
+        return mit_blanks_lesen(text);
+    }
+    double wert = 0;
+    zahlwandlung::lesen(text.data() + anfang, text.data() + i, wert);
     return wert;
 }
 

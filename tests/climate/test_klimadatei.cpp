@@ -176,6 +176,23 @@ TEST(Klimadatei, ReaderStopsAtItsBoundAndReadsNoMore) {
     EXPECT_EQ(zeilen_teilen("a\nb\r\nc\rd", 2), (std::vector<std::string_view>{"a", "b"}));
 }
 
+TEST(Klimadatei, LinesEndAtEachKindOfLineEnd) {
+    using Zeilen = std::vector<std::string_view>;
+    const std::pair<std::string_view, Zeilen> faelle[] = {
+        {"a\nb\r\nc\rd", {"a", "b", "c", "d"}},
+        {"a\r\rb\n", {"a", "", "b"}},
+        {"\r\n\r\n", {"", ""}},
+        {"a\r", {"a"}},
+        {"a\n", {"a"}},
+        {"x", {"x"}},
+        {"", {}},
+        {"\n\rz", {"", "", "z"}},
+    };
+    for (const auto& [text, zeilen] : faelle) {
+        EXPECT_EQ(zeilen_teilen(text), zeilen) << text;
+    }
+}
+
 TEST(Klimadatei, ShortRowsAndLfLineEndsRead) {
     std::string text = station_text({}, [](int, int) { return Stationsstunde{3, 0, 0}; });
     // Cut the temperature off one row and switch the whole file to LF line ends.
