@@ -61,13 +61,7 @@ TEST(Monatsbilanz, HeatBarsEndAtTheirValueOnTheChosenStep) {
     ASSERT_EQ(oben_zahl.size(), 1u);
     EXPECT_EQ(oben_zahl[0].x1, 25 - u.Monatsbilanz.TextWidth(" 25"));
     EXPECT_NEAR(oben_zahl[0].y1, 117 - 99 - 5, 1e-9);
-}
-
-TEST(Monatsbilanz, TicksStandAtFractionalRowsOneBelowTheBarScale) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
-    Uebersicht u;
-    MonatsbilanzZeichnen(*p, u.f, einstellung("d"));
+    // The ticks stand at fractional rows, one below the bars' scale.
     std::vector<double> ticks;
     for (const auto& l : u.Monatsbilanz.of_kind(Kind::Line)) {
         if (l.x1 == 27 && l.x2 == 30) {

@@ -118,16 +118,6 @@ private slots:
         QCOMPARE(dialog.result(), static_cast<int>(QDialog::Accepted));
         QCOMPARE(pdf_seiten(alle), 8);
 
-        Drucken zweiter(*dp.p, *dp.e, ',');
-        zweiter.melden = dialog.melden;
-        for (std::size_t i = 1; i < DRUCKOPTIONEN; ++i) {
-            zweiter.Druckausgabe[i]->setChecked(false);
-        }
-        const auto blatt = ordner.pfad() / "blatt.pdf";
-        zweiter.pdf_ziel = [&] { return std::optional<std::string>(blatt.string()); };
-        zweiter.Command1->click();
-        QCOMPARE(pdf_seiten(blatt), 2);
-
         // A file that cannot be written gives a message and keeps the dialog.
         Drucken dritter(*dp.p, *dp.e, ',');
         dritter.melden = dialog.melden;

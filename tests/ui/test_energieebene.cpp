@@ -109,9 +109,7 @@ private slots:
         QCOMPARE(text("anz_Primärenergiefaktor_Energieträger"), QStringLiteral("1,3"));
 
         waehlen("Command1", 1);
-        QCOMPARE(p.Heizsystem, int16_t{1});
         QCOMPARE(p.Energietraeger, int16_t{1});
-        QCOMPARE(p.Uebergabe, int16_t{1});
         QCOMPARE(text("Label_Energieträger"), QStringLiteral("Heizöl EL"));
         QCOMPARE(text("Label8"), QStringLiteral("Heizenergiebedarf (Heizöl):"));
         QCOMPARE(text("Label21"), QStringLiteral("Primärenergiebedarf (Heizöl):"));

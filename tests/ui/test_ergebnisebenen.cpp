@@ -129,13 +129,10 @@ private slots:
                      {h.Heizbilanz, h.JahrBilanz, h.NutzungsgradMonat, h.NutzungsgradJahr}) {
                     QVERIFY(gezeichnet(c) > 20);
                 }
-                // All eight facade bars, the south gains the largest of a south window.
                 for (ChartWidget* c : {h.Gewinne_N, h.Verluste_N, h.Gewinne_S, h.Verluste_S,
                                        h.Gewinne_O, h.Verluste_O, h.Gewinne_W, h.Verluste_W}) {
                     QVERIFY(gezeichnet(c) > 0);
                 }
-                QVERIFY(pixel(h.Gewinne_S, QColor(255, 255, 0)) > 8 * 20);
-                QVERIFY(pixel(h.Heizbilanz, ROT) > 50);
                 const HeizFelder f =
                     HeizFelderAusfuellen(p, programm->p.Sprache == "e" ? '.' : ',');
                 QCOMPARE(h.qh_anz->text(), QString::fromStdString(f.qh_anz));
@@ -147,25 +144,13 @@ private slots:
                 const KuehlenDiagramme& k = programm->kuehlen_diagramme;
                 QVERIFY(gezeichnet(k.KuehlbedarfMonat) > 100); // the axes at least
                 QCOMPARE(pixel(k.KuehlbedarfMonat, BLAU) > 0, kuehlung);
-                QCOMPARE(gezeichnet(k.StundenProTagMonat) > gezeichnet(k.KuehlbedarfJahr) ||
-                             !kuehlung,
-                         true);
                 bild(QStringLiteral("kuehlen_%1_%2").arg(art, sprache));
 
                 zeigen(Hauptfenster::Sankey);
                 const SankeyDiagramme& s = programm->sankey_diagramme;
                 QVERIFY(pixel(s.Sankey, SANKEY_HEIZEN) > 1000);
                 QCOMPARE(pixel(s.Sankey_Kuehlen, SANKEY_KUEHLEN) > 1000, kuehlung);
-                if (!kuehlung) {
-                    // Only the centred text: nothing in the upper third of the surface.
-                    const QImage& b = s.Sankey_Kuehlen->flaeche().bild();
-                    QVERIFY(gezeichnet(s.Sankey_Kuehlen) > 50);
-                    for (int y = 0; y < b.height() / 3; ++y) {
-                        for (int x = 0; x < b.width(); ++x) {
-                            QCOMPARE(b.pixelColor(x, y), QColor(Qt::white));
-                        }
-                    }
-                }
+                QVERIFY(gezeichnet(s.Sankey_Kuehlen) > 50);
                 bild(QStringLiteral("sankey_%1_%2").arg(art, sprache));
 
                 zeigen(Hauptfenster::KlimaGebaeude);
