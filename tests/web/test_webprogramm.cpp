@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The browser page's program, run natively: a wrong control name or option index from the page
-// is refused without a fault, and every chart of a plane that comes up is drawn into its command
+// is refused without a fault, after an action the page is sent only the pieces of the state that
+// changed, and every chart of a plane that comes up is drawn into its command
 // list, starting with the clearing of the surface. On the Europe and the world map a station dot
 // names its station and a release on it picks it; the land beside a dot does neither. The
 // enlarged temperature window draws the overview's month while it is open; the enlarged world map
@@ -52,6 +53,42 @@ TEST(Webprogramm, RefusesWhatThePlanesDoNotHave) {
     EXPECT_EQ(l.w.ergebnis(), vorher);
 }
 
+// A control's piece of the state, {"name":{...}}, as it stands in a state's JSON; empty if none.
+std::string teil(const std::string& json, const std::string& name) {
+    const auto a = json.find("\"" + name + "\":{");
+    return a == std::string::npos ? std::string() : json.substr(a, json.find('}', a) - a + 1);
+}
+
+TEST(Webprogramm, SendsThePageOnlyWhatChangedSinceItsLastCall) {
+    Lauf l;
+    const std::string leer = R"({"steuer":{},"felder":{},"diagramme":{}})";
+    EXPECT_EQ(l.w.aenderungen(), l.w.zustand());
+    EXPECT_EQ(l.w.aenderungen(), leer);
+
+    ASSERT_TRUE(l.w.pfeil("E_Geometrie.l_sb", 1));
+    const std::string schritt = l.w.aenderungen();
+    const std::string ganz = l.w.zustand();
+    struct Fall {
+        const char* name;
+        bool geschickt;
+    };
+    for (const Fall& f : {Fall{"E_Geometrie.l_sb", true}, Fall{"E_Geometrie.l_anz", true},
+                          Fall{"E_Geometrie.f_nfa_anz", true}, Fall{"E_Geometrie.b_sb", false},
+                          Fall{"E_Gebaeude.troom_anz", false}}) {
+        SCOPED_TRACE(f.name);
+        ASSERT_FALSE(teil(ganz, f.name).empty());
+        EXPECT_EQ(teil(schritt, f.name), f.geschickt ? teil(ganz, f.name) : std::string());
+    }
+    EXPECT_NE(schritt.find("\"Monatsbilanz\":"), std::string::npos);
+    EXPECT_EQ(schritt.find("\"gueltig\":"), std::string::npos);
+    EXPECT_EQ(l.w.aenderungen(), leer);
+
+    // A step there and back between two calls leaves the controls as the page has them.
+    ASSERT_TRUE(l.w.pfeil("E_Geometrie.l_sb", 1));
+    ASSERT_TRUE(l.w.pfeil("E_Geometrie.l_sb", -1));
+    EXPECT_EQ(teil(l.w.aenderungen(), "E_Geometrie.l_sb"), "");
+}
+
 TEST(Webprogramm, DrawsEveryChartOfThePlaneShown) {
     Lauf l;
     // The charts each output plane shows, by its button's order.
@@ -101,6 +138,7 @@ std::string benannt(Webprogramm& w, int x, int y) {
 
 TEST(Webprogramm, StationMapsNameAndPickTheDotUnderThePointer) {
     Lauf l;
+    ASSERT_TRUE(l.w.eingabe_zeigen(Webprogramm::Klima));
     for (int bereich : {2, 3}) {
         SCOPED_TRACE(bereich);
         ASSERT_TRUE(l.w.klima("Option", bereich, "")) << l.w.fehler();
