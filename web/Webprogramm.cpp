@@ -636,8 +636,28 @@ bool Webprogramm::neu() {
 
 bool Webprogramm::oeffnen(const std::string& pfad) {
     const bool gut = ausfuehren([this, &pfad] { io_->datei_oeffnen(pfad); });
+    if (gut) {
+        weltstation_zeigen();
+    }
     gezeigte_zeichnen();
     return gut;
+}
+
+void Webprogramm::weltstation_zeigen() {
+    E_Klima& k = ebenen_->klima;
+    const int i = k.Klimaregionwahl2.ListIndex;
+    if (p.Klimaauswahl != 3 || i < 0 || i >= k.listen.Welt.anzahl()) {
+        return;
+    }
+    // As a pick in the list does: left of the strip shown to the map's start, right of it to
+    // its end.
+    const double x = k.listen.Welt.punkt(i).first * 15;
+    if (k.HScroll1 > x) {
+        HScroll1_Change(k, 0);
+    }
+    if (k.HScroll1 + k.picture3f_breite < x) {
+        HScroll1_Change(k, k.HScroll1_max);
+    }
 }
 
 std::string Webprogramm::speichern(bool unter, const std::string& pfad) {

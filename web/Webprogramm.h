@@ -181,6 +181,8 @@ private:
     bool zoom_offen_ = false;
     std::string fehler_;
     void zoom_zeichnen();
+    // The station of a project opened in the world scope brought into view on the world map.
+    void weltstation_zeigen();
     // The map picture shown, read again only when the picture changes.
     const Bitmap& karte();
     std::string karte_name_;

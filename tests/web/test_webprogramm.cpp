@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The browser page's program, run natively: a wrong control name or option index from the page
 // is refused without a fault, after an action the page is sent only the pieces of the state that
-// changed, and every chart of a plane that comes up is drawn into its command
-// list, starting with the clearing of the surface. On the Europe and the world map a station dot
-// names its station and a release on it picks it; the land beside a dot does neither. The
-// enlarged temperature window draws the overview's month while it is open; the enlarged world map
-// chooses for itself and hands its choice to the plane only on OK.
+// changed, a project opened in the world scope scrolls the world map to its station, and every
+// chart of a plane that comes up is drawn into its command list, starting with the clearing of the
+// surface. On the Europe and the world map a station dot names its station and a release on it
+// picks it; the land beside a dot does neither. The enlarged temperature window draws the
+// overview's month while it is open; the enlarged world map chooses for itself and hands its choice
+// to the plane only on OK.
 #include "web/Webprogramm.h"
 
 #include "charts/A_Uebersicht.h"
 #include "climate/E_Klima.h"
 #include "project/c_glob.h"
+#include "tests/support/Testprojekt.h"
 
 #include <gtest/gtest.h>
 
@@ -173,6 +175,51 @@ TEST(Webprogramm, StationMapsNameAndPickTheDotUnderThePointer) {
     EXPECT_EQ(l.w.ebenen().klima.HScroll1, (650 - 336) * 15);
     ASSERT_TRUE(l.w.klima("HScroll1", -3, ""));
     EXPECT_EQ(l.w.ebenen().klima.HScroll1, 0);
+}
+
+TEST(Webprogramm, OpeningAProjectOfTheWorldScopeBringsItsStationIntoView) {
+    Lauf l;
+    TempOrdner ordner;
+    ASSERT_TRUE(l.w.klima("Option", 3, "")) << l.w.fehler();
+    const E_Klima& k = l.w.ebenen().klima;
+    const Stationsliste& welt = k.listen.Welt;
+    int west = 0;
+    int ost = 0;
+    for (int i = 1; i < welt.anzahl(); ++i) {
+        west = welt.punkt(i).first < welt.punkt(west).first ? i : west;
+        ost = welt.punkt(i).first > welt.punkt(ost).first ? i : ost;
+    }
+    // Each station saved, the map scrolled away from it, the project opened again.
+    struct Fall {
+        int station;
+        int vorher;
+        int nachher;
+        const char* datei;
+    };
+    for (const Fall& f :
+         {Fall{ost, 0, k.HScroll1_max, "ost.vel"}, Fall{west, k.HScroll1_max, 0, "west.vel"}}) {
+        SCOPED_TRACE(f.datei);
+        ASSERT_TRUE(l.w.klima("Klimaregionwahl2", f.station, "")) << l.w.fehler();
+        const std::string pfad = (ordner.pfad() / f.datei).string();
+        ASSERT_EQ(l.w.speichern(true, pfad), pfad);
+        ASSERT_TRUE(l.w.klima("HScroll1", f.vorher, ""));
+        ASSERT_EQ(k.HScroll1, f.vorher);
+        ASSERT_TRUE(l.w.oeffnen(pfad)) << l.w.fehler();
+        EXPECT_EQ(k.Klimaregionwahl2.ListIndex, f.station);
+        EXPECT_EQ(k.HScroll1, f.nachher);
+    }
+}
+
+TEST(Webprogramm, EnergyListEntriesStandUnderEachOtherByTheirWrappedLines) {
+    Lauf l;
+    ASSERT_TRUE(l.w.klicken("Command1"));
+    // Six pixels a character over 314: the first system's 84 characters take two lines of 13
+    // pixels, the electric direct heating one.
+    const auto& liste = l.w.ebenen().energie.Label_Auswahl;
+    EXPECT_EQ(liste[0].Height, 2 * 13 * 15);
+    EXPECT_EQ(liste[1].Top, liste[0].Top + liste[0].Height + 120);
+    EXPECT_EQ(liste[7].Caption, "Elektro-Direktheizung");
+    EXPECT_EQ(liste[7].Height, 13 * 15);
 }
 
 TEST(Webprogramm, EnlargedTemperatureWindowFollowsTheMonthWhileOpen) {
