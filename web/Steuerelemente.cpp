@@ -18,7 +18,7 @@ struct Liste {
     void operator()(const std::string& name, OptionGroup& f) { add(name, Art::Option, &f); }
     void operator()(const std::string& name, Label& f) { add(name, Art::Label, &f); }
     void add(const std::string& name, Art art, void* modell) {
-        ziel.push_back({ebene + "." + name, art, modell});
+        ziel.push_back({ebene + "." + name, art, modell, 0});
     }
 };
 

@@ -36,6 +36,37 @@ bool hat_option(const OptionGroup& g, int index) {
     }
 }
 
+// The page's labels: their font and, for the energy plane's list entries, their width.
+const std::string SEITENSCHRIFT = "11px 'Liberation Sans', Arial, sans-serif";
+constexpr double LISTE_EINTRAG_BREITE = 314;
+constexpr int TWIPS_JE_PIXEL = 15;
+
+// The lines of `text` wrapped at `breite` pixels as the browser wraps a label: after a blank or
+// a hyphen, a word wider than the line standing on a line of its own.
+int umbrochene_zeilen(const std::string& text, double breite,
+                      const CanvasFlaeche::Textmass& breite_von) {
+    int zeilen = 1;
+    std::string zeile;
+    std::size_t a = 0;
+    while (a < text.size()) {
+        std::size_t e = text.find_first_of(" -", a);
+        e = e == std::string::npos ? text.size() : e + 1;
+        const std::string wort = text.substr(a, e - a);
+        std::string probe = zeile + wort;
+        while (!probe.empty() && probe.back() == ' ') {
+            probe.pop_back();
+        }
+        if (!zeile.empty() && breite_von(SEITENSCHRIFT, probe) > breite) {
+            ++zeilen;
+            zeile = wort;
+        } else {
+            zeile += wort;
+        }
+        a = e;
+    }
+    return zeilen;
+}
+
 } // namespace
 
 Dialogs::Antwort Seitendialoge::nachricht(const std::string& text, const std::string& t, Symbol,
@@ -89,11 +120,26 @@ Webprogramm::Webprogramm(const std::string& sprache, const std::string& klima,
     io_ = std::make_unique<FILEIO>(p, *ebenen_, dialoge_);
     weltkarte_einrichten(ebenen_->klima, WELT.breite, WELT_RAHMEN);
     for (Steuerelement& s : steuerelemente(*ebenen_)) {
+        // An option group's range is asked once: the group tells it only by a fault, which is
+        // slow in the browser.
+        if (s.art == Steuerelement::Art::Option) {
+            for (int i = 0; i < 4; ++i) {
+                if (hat_option(*static_cast<const OptionGroup*>(s.modell), i)) {
+                    s.optionen |= 1U << i;
+                }
+            }
+        }
         steuer_.emplace(s.name, s);
     }
 
     breite_ = std::move(breite);
     hoehe_ = std::move(hoehe);
+    // The energy plane's list entries wrap at their width as the page's labels do, so that each
+    // stands under its predecessor by that one's lines.
+    ebenen_->energie.Texthoehe = [this](const std::string& text) {
+        return umbrochene_zeilen(text, LISTE_EINTRAG_BREITE, breite_) *
+               static_cast<int>(std::ceil(hoehe_(SEITENSCHRIFT, text))) * TWIPS_JE_PIXEL;
+    };
 }
 
 // Here, where the run's observer is a complete type.
@@ -590,8 +636,28 @@ bool Webprogramm::neu() {
 
 bool Webprogramm::oeffnen(const std::string& pfad) {
     const bool gut = ausfuehren([this, &pfad] { io_->datei_oeffnen(pfad); });
+    if (gut) {
+        weltstation_zeigen();
+    }
     gezeigte_zeichnen();
     return gut;
+}
+
+void Webprogramm::weltstation_zeigen() {
+    E_Klima& k = ebenen_->klima;
+    const int i = k.Klimaregionwahl2.ListIndex;
+    if (p.Klimaauswahl != 3 || i < 0 || i >= k.listen.Welt.anzahl()) {
+        return;
+    }
+    // As a pick in the list does: left of the strip shown to the map's start, right of it to
+    // its end.
+    const double x = k.listen.Welt.punkt(i).first * 15;
+    if (k.HScroll1 > x) {
+        HScroll1_Change(k, 0);
+    }
+    if (k.HScroll1 + k.picture3f_breite < x) {
+        HScroll1_Change(k, k.HScroll1_max);
+    }
 }
 
 std::string Webprogramm::speichern(bool unter, const std::string& pfad) {
@@ -692,170 +758,215 @@ std::string Webprogramm::temperaturen() const {
 }
 
 std::string Webprogramm::zustand() const {
-    JsonWriter j;
-    j.begin_object();
-    j.field("gueltig", gueltig_ ? 1 : 0);
-    j.field("fehler", fehler_);
-    j.field("titel", dialoge_.titel);
-    j.field("geaendert", static_cast<int>(p.Geaendert));
-    j.field("monat", static_cast<int>(p.Monat_Uebersicht));
-    j.key("steuer");
-    j.begin_object();
-    for (const auto& [name, s] : steuer_) {
-        j.key(name);
-        j.begin_object();
-        switch (s.art) {
-        case Steuerelement::Art::Scroll: {
-            const auto* f = static_cast<const ScrollField*>(s.modell);
-            j.field("wert", static_cast<int>(f->Value()));
-            j.field("min", static_cast<int>(f->Min));
-            j.field("max", static_cast<int>(f->Max));
-            j.field("klein", static_cast<int>(f->SmallChange));
-            j.field("gross", static_cast<int>(f->LargeChange));
-            j.field("aktiv", f->Enabled ? 1 : 0);
-            j.field("sichtbar", f->Visible ? 1 : 0);
-            break;
-        }
-        case Steuerelement::Art::Liste: {
-            const auto* f = static_cast<const ListField*>(s.modell);
-            j.key("zeilen");
-            j.begin_array();
-            for (const std::string& e : f->Eintraege) {
-                j.value(e);
-            }
-            j.end_array();
-            j.field("index", f->ListIndex());
-            j.field("aktiv", f->Enabled ? 1 : 0);
-            j.field("sichtbar", f->Visible ? 1 : 0);
-            break;
-        }
-        case Steuerelement::Art::Check: {
-            const auto* f = static_cast<const CheckField*>(s.modell);
-            j.field("wert", f->Value());
-            j.field("aktiv", f->Enabled ? 1 : 0);
-            j.field("sichtbar", f->Visible ? 1 : 0);
-            break;
-        }
-        case Steuerelement::Art::Option: {
-            const auto* f = static_cast<const OptionGroup*>(s.modell);
-            j.field("gesetzt", f->gesetzt());
-            j.key("aktiv");
-            j.begin_array();
-            for (int i = 0; i < 4; ++i) {
-                j.value(hat_option(*f, i) ? (f->Enabled(i) ? 1 : 0) : -1);
-            }
-            j.end_array();
-            break;
-        }
-        case Steuerelement::Art::Label: {
-            const auto* f = static_cast<const Label*>(s.modell);
-            j.field("text", f->Caption);
-            j.field("sichtbar", f->Visible ? 1 : 0);
-            j.field("links", f->Left);
-            j.field("oben", f->Top);
-            j.field("hoehe", f->Height);
-            j.field("verdeckt", f->ForeColor == Label::Farbe::Hintergrund ? 1 : 0);
-            break;
-        }
-        }
-        j.end_object();
-    }
-    j.end_object();
+    return als_json(zustandsteile());
+}
 
-    // The state of the planes that the desktop's builders follow by hand.
-    const E_Geometrie& g = ebenen_->geometrie;
-    const E_Fenster& f = ebenen_->fenster;
-    const E_Gebaeude& b = ebenen_->gebaeude;
-    const E_Energie& e = ebenen_->energie;
-    j.key("ebenen");
-    j.begin_object();
-    j.field("Frame3_Enabled", g.Frame3_Enabled ? 1 : 0);
-    j.field("h_sb_Top", g.h_sb_Top);
-    j.field("h_sb_Height", g.h_sb_Height);
-    j.field("Picture3", g.Picture3);
-    j.field("av_balken_y", g.av_balken_y);
-    j.key("Command_HR");
-    j.begin_array();
-    for (const auto& k : f.Command_HR) {
-        j.value((k.Visible ? 1 : 0) + (k.Enabled ? 2 : 0));
+std::string Webprogramm::aenderungen() {
+    std::vector<Zustandsteil> neu;
+    for (Zustandsteil& t : zustandsteile()) {
+        std::string& alt = gesendet_[std::to_string(static_cast<int>(t.abschnitt)) + t.name];
+        if (alt != t.json) {
+            alt = t.json;
+            neu.push_back(std::move(t));
+        }
     }
-    j.end_array();
-    j.key("Frame_Visible");
-    j.begin_array();
-    for (bool v : f.Frame_Visible) {
-        j.value(v ? 1 : 0);
-    }
-    j.end_array();
-    j.field("Gewicht1_Top", b.Gewicht1_Top);
-    j.field("Gewicht1_Height", b.Gewicht1_Height);
-    j.field("Gewicht2_Top", b.Gewicht2_Top);
-    j.field("Gewicht2_Height", b.Gewicht2_Height);
-    j.field("Frame_Auswahl_Visible", e.Frame_Auswahl_Visible ? 1 : 0);
-    j.field("Frame_Auswahl_Left", e.Frame_Auswahl_Left);
-    j.field("Frame_Auswahl_Top", e.Frame_Auswahl_Top);
-    j.field("Frame_Auswahl_Height", e.Frame_Auswahl_Height);
-    j.end_object();
+    return als_json(neu);
+}
 
-    const E_Klima& k = ebenen_->klima;
-    j.key("klima");
+std::string Webprogramm::als_json(const std::vector<Zustandsteil>& teile) {
+    auto schluessel = [](const std::string& name) {
+        JsonWriter j;
+        j.value(name);
+        return j.text() + ':';
+    };
+    std::string oben;
+    std::string abschnitte[3];
+    for (const Zustandsteil& t : teile) {
+        std::string& ziel =
+            t.abschnitt == Abschnitt::Oben ? oben : abschnitte[static_cast<int>(t.abschnitt) - 1];
+        ziel += (ziel.empty() ? "" : ",") + schluessel(t.name) + t.json;
+    }
+    return "{" + oben + (oben.empty() ? "" : ",") + "\"steuer\":{" + abschnitte[0] +
+           "},\"felder\":{" + abschnitte[1] + "},\"diagramme\":{" + abschnitte[2] + "}}";
+}
+
+namespace {
+
+void steuerelement_schreiben(JsonWriter& j, const Steuerelement& s) {
     j.begin_object();
-    j.field("auswahl", static_cast<int>(p.Klimaauswahl));
-    j.field("sichtbar", k.sichtbar);
-    j.field("Picture1", k.Picture1);
-    j.field("plz", k.plz);
-    j.field("HScroll1", k.HScroll1);
-    j.field("HScroll1_max", k.HScroll1_max);
-    j.field("picture3f_breite", k.picture3f_breite);
-    // The dots of the station map shown, as [x, y, colour] with red in the colour's low byte.
-    j.key("punkte");
-    j.begin_array();
-    if (k.sichtbar == 2 || k.sichtbar == 3) {
-        for (const Kartenpunkt& punkt : kartenpunkte(
-                 k.sichtbar == 2 ? k.listen.Europa : k.listen.Welt, k.Klimaregionwahl2.ListIndex)) {
-            j.begin_array();
-            j.value(static_cast<int>(std::lround(punkt.x)));
-            j.value(static_cast<int>(std::lround(punkt.y)));
-            j.value(static_cast<int>(punkt.farbe));
-            j.end_array();
-        }
+    switch (s.art) {
+    case Steuerelement::Art::Scroll: {
+        const auto* f = static_cast<const ScrollField*>(s.modell);
+        j.field("wert", static_cast<int>(f->Value()));
+        j.field("min", static_cast<int>(f->Min));
+        j.field("max", static_cast<int>(f->Max));
+        j.field("klein", static_cast<int>(f->SmallChange));
+        j.field("gross", static_cast<int>(f->LargeChange));
+        j.field("aktiv", f->Enabled ? 1 : 0);
+        j.field("sichtbar", f->Visible ? 1 : 0);
+        break;
     }
-    j.end_array();
-    // The enlarged world map while it is open: its choice and its dots.
-    if (zoom_klima_) {
-        j.key("zoom");
-        j.begin_object();
-        j.field("index", zoom_klima_->Klimaregionwahl2.ListIndex);
-        j.field("text", zoom_klima_->Klimaregionwahl2.Text);
-        j.key("punkte");
-        j.begin_array();
-        for (const Kartenpunkt& punkt : zoom_klima_punkte()) {
-            j.begin_array();
-            j.value(static_cast<int>(std::lround(punkt.x)));
-            j.value(static_cast<int>(std::lround(punkt.y)));
-            j.value(static_cast<int>(punkt.farbe));
-            j.end_array();
-        }
-        j.end_array();
-        j.end_object();
-    }
-    for (const auto& [n, l] : std::initializer_list<std::pair<const char*, const Klimaliste*>>{
-             {"Klimaregionwahl", &k.Klimaregionwahl}, {"Klimaregionwahl2", &k.Klimaregionwahl2}}) {
-        j.key(n);
-        j.begin_object();
+    case Steuerelement::Art::Liste: {
+        const auto* f = static_cast<const ListField*>(s.modell);
         j.key("zeilen");
         j.begin_array();
-        for (const std::string& e : l->Eintraege) {
+        for (const std::string& e : f->Eintraege) {
             j.value(e);
         }
         j.end_array();
-        j.field("index", l->ListIndex);
-        j.end_object();
+        j.field("index", f->ListIndex());
+        j.field("aktiv", f->Enabled ? 1 : 0);
+        j.field("sichtbar", f->Visible ? 1 : 0);
+        break;
+    }
+    case Steuerelement::Art::Check: {
+        const auto* f = static_cast<const CheckField*>(s.modell);
+        j.field("wert", f->Value());
+        j.field("aktiv", f->Enabled ? 1 : 0);
+        j.field("sichtbar", f->Visible ? 1 : 0);
+        break;
+    }
+    case Steuerelement::Art::Option: {
+        const auto* f = static_cast<const OptionGroup*>(s.modell);
+        j.field("gesetzt", f->gesetzt());
+        j.key("aktiv");
+        j.begin_array();
+        for (int i = 0; i < 4; ++i) {
+            j.value((s.optionen >> i & 1U) != 0 ? (f->Enabled(i) ? 1 : 0) : -1);
+        }
+        j.end_array();
+        break;
+    }
+    case Steuerelement::Art::Label: {
+        const auto* f = static_cast<const Label*>(s.modell);
+        j.field("text", f->Caption);
+        j.field("sichtbar", f->Visible ? 1 : 0);
+        j.field("links", f->Left);
+        j.field("oben", f->Top);
+        j.field("hoehe", f->Height);
+        j.field("verdeckt", f->ForeColor == Label::Farbe::Hintergrund ? 1 : 0);
+        break;
+    }
     }
     j.end_object();
+}
+
+// Map dots as [x, y, colour] with red in the colour's low byte.
+void punkte_schreiben(JsonWriter& j, const std::vector<Kartenpunkt>& punkte) {
+    j.begin_array();
+    for (const Kartenpunkt& punkt : punkte) {
+        j.begin_array();
+        j.value(static_cast<int>(std::lround(punkt.x)));
+        j.value(static_cast<int>(std::lround(punkt.y)));
+        j.value(static_cast<int>(punkt.farbe));
+        j.end_array();
+    }
+    j.end_array();
+}
+
+} // namespace
+
+std::vector<Webprogramm::Zustandsteil> Webprogramm::zustandsteile() const {
+    std::vector<Zustandsteil> teile;
+    auto teil = [&teile](Abschnitt a, std::string name, const auto& schreiben) {
+        JsonWriter j;
+        schreiben(j);
+        teile.push_back({a, std::move(name), j.text()});
+    };
+    auto wert = [&teil](Abschnitt a, std::string name, const auto& w) {
+        teil(a, std::move(name), [&w](JsonWriter& j) { j.value(w); });
+    };
+    wert(Abschnitt::Oben, "gueltig", gueltig_ ? 1 : 0);
+    wert(Abschnitt::Oben, "fehler", fehler_);
+    wert(Abschnitt::Oben, "titel", dialoge_.titel);
+    wert(Abschnitt::Oben, "geaendert", static_cast<int>(p.Geaendert));
+    wert(Abschnitt::Oben, "monat", static_cast<int>(p.Monat_Uebersicht));
+    for (const auto& [name, s] : steuer_) {
+        teil(Abschnitt::Steuer, name, [&s = s](JsonWriter& j) { steuerelement_schreiben(j, s); });
+    }
+
+    // The state of the planes that the desktop's builders follow by hand.
+    teil(Abschnitt::Oben, "ebenen", [this](JsonWriter& j) {
+        const E_Geometrie& g = ebenen_->geometrie;
+        const E_Fenster& f = ebenen_->fenster;
+        const E_Gebaeude& b = ebenen_->gebaeude;
+        const E_Energie& e = ebenen_->energie;
+        j.begin_object();
+        j.field("Frame3_Enabled", g.Frame3_Enabled ? 1 : 0);
+        j.field("h_sb_Top", g.h_sb_Top);
+        j.field("h_sb_Height", g.h_sb_Height);
+        j.field("Picture3", g.Picture3);
+        j.field("av_balken_y", g.av_balken_y);
+        j.key("Command_HR");
+        j.begin_array();
+        for (const auto& k : f.Command_HR) {
+            j.value((k.Visible ? 1 : 0) + (k.Enabled ? 2 : 0));
+        }
+        j.end_array();
+        j.key("Frame_Visible");
+        j.begin_array();
+        for (bool v : f.Frame_Visible) {
+            j.value(v ? 1 : 0);
+        }
+        j.end_array();
+        j.field("Gewicht1_Top", b.Gewicht1_Top);
+        j.field("Gewicht1_Height", b.Gewicht1_Height);
+        j.field("Gewicht2_Top", b.Gewicht2_Top);
+        j.field("Gewicht2_Height", b.Gewicht2_Height);
+        j.field("Frame_Auswahl_Visible", e.Frame_Auswahl_Visible ? 1 : 0);
+        j.field("Frame_Auswahl_Left", e.Frame_Auswahl_Left);
+        j.field("Frame_Auswahl_Top", e.Frame_Auswahl_Top);
+        j.field("Frame_Auswahl_Height", e.Frame_Auswahl_Height);
+        j.end_object();
+    });
+
+    teil(Abschnitt::Oben, "klima", [this](JsonWriter& j) {
+        const E_Klima& k = ebenen_->klima;
+        j.begin_object();
+        j.field("auswahl", static_cast<int>(p.Klimaauswahl));
+        j.field("sichtbar", k.sichtbar);
+        j.field("Picture1", k.Picture1);
+        j.field("plz", k.plz);
+        j.field("HScroll1", k.HScroll1);
+        j.field("HScroll1_max", k.HScroll1_max);
+        j.field("picture3f_breite", k.picture3f_breite);
+        // The dots of the station map shown, only while the plane is up: reading the stations'
+        // places is the slowest piece of the state.
+        j.key("punkte");
+        if ((k.sichtbar == 2 || k.sichtbar == 3) && eingabe_ == Klima) {
+            punkte_schreiben(j, kartenpunkte(k.sichtbar == 2 ? k.listen.Europa : k.listen.Welt,
+                                             k.Klimaregionwahl2.ListIndex));
+        } else {
+            punkte_schreiben(j, {});
+        }
+        // The enlarged world map while it is open: its choice and its dots.
+        if (zoom_klima_) {
+            j.key("zoom");
+            j.begin_object();
+            j.field("index", zoom_klima_->Klimaregionwahl2.ListIndex);
+            j.field("text", zoom_klima_->Klimaregionwahl2.Text);
+            j.key("punkte");
+            punkte_schreiben(j, zoom_klima_punkte());
+            j.end_object();
+        }
+        for (const auto& [n, l] : std::initializer_list<std::pair<const char*, const Klimaliste*>>{
+                 {"Klimaregionwahl", &k.Klimaregionwahl},
+                 {"Klimaregionwahl2", &k.Klimaregionwahl2}}) {
+            j.key(n);
+            j.begin_object();
+            j.key("zeilen");
+            j.begin_array();
+            for (const std::string& e : l->Eintraege) {
+                j.value(e);
+            }
+            j.end_array();
+            j.field("index", l->ListIndex);
+            j.end_object();
+        }
+        j.end_object();
+    });
 
     // The fields that the result planes write themselves.
-    j.key("felder");
-    j.begin_object();
     const HeizFelder& h = heiz_felder_;
     for (const auto& [n, t] : std::initializer_list<std::pair<const char*, const std::string*>>{
              {"qsols_anz", &h.qsols_anz},
@@ -868,7 +979,7 @@ std::string Webprogramm::zustand() const {
              {"qi_anz", &h.qi_anz},
              {"qinf_anz", &h.qinf_anz},
              {"qtr_anz", &h.qtr_anz}}) {
-        j.field(n, gueltig_ ? *t : std::string());
+        wert(Abschnitt::Felder, n, gueltig_ ? *t : std::string());
     }
     // The energy plane's figures and the captions that name the carrier.
     const Energiekennwerte& en = p.Energie;
@@ -876,26 +987,26 @@ std::string Webprogramm::zustand() const {
     const std::string traeger = englisch ? en.Traegername_e : en.Traegername;
     const bool strom = en.Traegername == "Strom";
     const char dez = einstellung_.dezimal;
-    j.field("E_Energie/Label8",
-            (englisch ? "heating energy demand (" : "Heizenergiebedarf (") + traeger + "):");
-    j.field("E_Energie/Label21",
-            (englisch ? "primary energy demand (" : "Primärenergiebedarf (") + traeger + "):");
-    j.field("E_Energie/Label27", traeger + ":");
-    j.field("strom", strom ? 1 : 0);
-    auto wert = [this, &j](const char* n, const std::string& t) {
-        j.field(n, gueltig_ ? t : std::string());
+    wert(Abschnitt::Felder, "E_Energie/Label8",
+         (englisch ? "heating energy demand (" : "Heizenergiebedarf (") + traeger + "):");
+    wert(Abschnitt::Felder, "E_Energie/Label21",
+         (englisch ? "primary energy demand (" : "Primärenergiebedarf (") + traeger + "):");
+    wert(Abschnitt::Felder, "E_Energie/Label27", traeger + ":");
+    wert(Abschnitt::Felder, "strom", strom ? 1 : 0);
+    auto ergebnis = [this, &wert](const char* n, const std::string& t) {
+        wert(Abschnitt::Felder, n, gueltig_ ? t : std::string());
     };
-    wert("anz_qhs_sum", format_muster(p.qhs_sum, "0.0", dez));
-    wert("anz_q_verlust", format_muster(en.q_s + en.q_ce + en.q_d, "0.0", dez));
-    wert("anz_e_g", format_muster(en.e_g, "0.00", dez));
-    wert("anz_q_HE_Energieträger", format_muster(p.q_HE_Energietraeger, "0.0", dez));
-    wert("anz_q_HE_Strom", format_muster(p.q_HE_Strom, "0.0", dez));
-    wert("anz_q_PE_Energieträger",
-         format_muster(strom ? p.q_PE_Strom + p.q_PE_Energietraeger : p.q_PE_Energietraeger, "0.0",
-                       dez));
-    wert("anz_q_PE_Strom", format_muster(p.q_PE_Strom, "0.0", dez));
-    wert("anz_Primärenergiefaktor_Energieträger", format_muster(en.f_p, "0.0", dez));
-    wert("anz_Primärenergiefaktor_Strom", format_muster(PRIMAERFAKTOR_STROM, "0.0", dez));
+    ergebnis("anz_qhs_sum", format_muster(p.qhs_sum, "0.0", dez));
+    ergebnis("anz_q_verlust", format_muster(en.q_s + en.q_ce + en.q_d, "0.0", dez));
+    ergebnis("anz_e_g", format_muster(en.e_g, "0.00", dez));
+    ergebnis("anz_q_HE_Energieträger", format_muster(p.q_HE_Energietraeger, "0.0", dez));
+    ergebnis("anz_q_HE_Strom", format_muster(p.q_HE_Strom, "0.0", dez));
+    ergebnis("anz_q_PE_Energieträger",
+             format_muster(strom ? p.q_PE_Strom + p.q_PE_Energietraeger : p.q_PE_Energietraeger,
+                           "0.0", dez));
+    ergebnis("anz_q_PE_Strom", format_muster(p.q_PE_Strom, "0.0", dez));
+    ergebnis("anz_Primärenergiefaktor_Energieträger", format_muster(en.f_p, "0.0", dez));
+    ergebnis("anz_Primärenergiefaktor_Strom", format_muster(PRIMAERFAKTOR_STROM, "0.0", dez));
     if (gueltig_) {
         const KlimainfoTexte k = klimainfo_texte(p, einstellung_.dezimal);
         for (const auto& [n, t] : std::initializer_list<std::pair<const char*, const std::string*>>{
@@ -919,17 +1030,12 @@ std::string Webprogramm::zustand() const {
                  {"anz_kuehllast_spez", &k.anz_kuehllast_spez},
                  {"anz_Heizgrenztemp", &k.anz_Heizgrenztemp},
                  {"anz_Heiztage", &k.anz_Heiztage}}) {
-            j.field(n, *t);
+            wert(Abschnitt::Felder, n, *t);
         }
     }
-    j.end_object();
 
-    j.key("diagramme");
-    j.begin_object();
     for (const auto& [name, flaeche] : flaechen_) {
-        j.field(name, flaeche->fassung());
+        wert(Abschnitt::Diagramme, name, flaeche->fassung());
     }
-    j.end_object();
-    j.end_object();
-    return j.text();
+    return teile;
 }

@@ -115,6 +115,10 @@ public:
     // Every control's and label's state as JSON: {"name": {...}, ...}, with the chart versions,
     // the validity of the results and the title.
     std::string zustand() const;
+    // The same, but of each control, label, field and chart and of each value at the top only
+    // what differs from the last call (at the first call everything): the page's state after an
+    // action costs no more than the action changed.
+    std::string aenderungen();
     // The tooltip of the chart `feld` at (x, y), empty where none shows.
     std::string tooltip(const std::string& feld, double x, double y) const;
     // The results as the command line's calc writes them.
@@ -133,6 +137,19 @@ public:
     Eingabeflaechen& ebenen() { return *ebenen_; }
 
 private:
+    // One piece of the state: a value at the top, or a member of "steuer", "felder" or
+    // "diagramme", with its JSON.
+    enum class Abschnitt { Oben, Steuer, Felder, Diagramme };
+    struct Zustandsteil {
+        Abschnitt abschnitt;
+        std::string name;
+        std::string json;
+    };
+    std::vector<Zustandsteil> zustandsteile() const;
+    static std::string als_json(const std::vector<Zustandsteil>& teile);
+    // The JSON of each piece as the page last received it.
+    std::map<std::string, std::string> gesendet_;
+
     bool ausfuehren(const std::function<void()>& aktion);
     // An arrow or page step of the scroll field `name`.
     bool schieben(const std::string& name, void (ScrollField::*schritt)(int), int richtung);
@@ -164,6 +181,8 @@ private:
     bool zoom_offen_ = false;
     std::string fehler_;
     void zoom_zeichnen();
+    // The station of a project opened in the world scope brought into view on the world map.
+    void weltstation_zeigen();
     // The map picture shown, read again only when the picture changes.
     const Bitmap& karte();
     std::string karte_name_;

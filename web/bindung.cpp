@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program's interface to the page's JavaScript: one object per run, its actions by control
-// name, its state as one JSON text, and each chart's command list as views into the module's
-// memory, so that a redraw crosses over once per chart.
+// name, what changed in its state as one JSON text, and each chart's command list as views into the
+// module's memory, so that a redraw crosses over once per chart.
 #include "web/Webprogramm.h"
 
+#include "calc/c_mod.h"
 #include "charts/Ebenenlage.h"
+#include "project/c_glob.h"
 #include "report/Textmass.h"
 
 #include <emscripten/bind.h>
 #include <emscripten/val.h>
 
+#include <exception>
 #include <map>
 #include <memory>
 #include <utility>
@@ -108,7 +111,7 @@ public:
     std::string speichern(bool unter, const std::string& pfad) {
         return programm_->speichern(unter, pfad);
     }
-    std::string zustand() const { return programm_->zustand(); }
+    std::string aenderungen() { return programm_->aenderungen(); }
     std::string tooltip(const std::string& f, double x, double y) const {
         return programm_->tooltip(f, x, y);
     }
@@ -117,6 +120,7 @@ public:
         return programm_->report([](const std::string& t) { return times_breite(t); });
     }
     std::string temperaturen() const { return programm_->temperaturen(); }
+    const Projekt& projekt() const { return programm_->p; }
     // The chart's commands as a Float64Array view (valid until the next call into the module).
     val befehle(const std::string& feld) {
         CanvasFlaeche* f = programm_->flaeche(feld);
@@ -141,6 +145,25 @@ private:
     std::shared_ptr<Seitenmass> mass_;
     Seitendialoge dialoge_;
     std::unique_ptr<Webprogramm> programm_;
+};
+
+// The bare recalculation on a copy of the page's record, which has no charts to tell: the
+// benchmark's figure beside the native alles_berechnen.
+class Rechenprobe {
+public:
+    explicit Rechenprobe(const Seitenprogramm& s) : kopie_(s.projekt()) {}
+    // False where the run stopped short (a fault, or a record still being built up).
+    bool rechnen() {
+        try {
+            alles_berechnen(kopie_);
+            return kopie_.FormLoadGuard == 0;
+        } catch (const std::exception&) {
+            return false;
+        }
+    }
+
+private:
+    Projekt kopie_;
 };
 
 // The places in the enlarged temperature window of `breite` x `hoehe` pixels, as JSON.
@@ -187,11 +210,14 @@ EMSCRIPTEN_BINDINGS(velmaris) {
         .function("neu", &Seitenprogramm::neu)
         .function("oeffnen", &Seitenprogramm::oeffnen)
         .function("speichern", &Seitenprogramm::speichern)
-        .function("zustand", &Seitenprogramm::zustand)
+        .function("aenderungen", &Seitenprogramm::aenderungen)
         .function("tooltip", &Seitenprogramm::tooltip)
         .function("ergebnis", &Seitenprogramm::ergebnis)
         .function("report", &Seitenprogramm::report)
         .function("temperaturen", &Seitenprogramm::temperaturen)
         .function("befehle", &Seitenprogramm::befehle)
         .function("texte", &Seitenprogramm::texte);
+    emscripten::class_<Rechenprobe>("Rechenprobe")
+        .constructor<const Seitenprogramm&>()
+        .function("rechnen", &Rechenprobe::rechnen);
 }

@@ -47,19 +47,26 @@ export function abspielen(canvas, befehle, texte, breite, hoehe, massstab) {
   const ctx = canvas.getContext('2d');
   ctx.setTransform(massstab, 0, 0, massstab, 0, 0);
   ctx.lineCap = 'butt';
-  // Consecutive lines of one colour and width are stroked as one path: a temperature course
-  // has hundreds of them.
-  let offen = null;
+  // Consecutive lines of one colour and width are stroked as one path, and consecutive areas of
+  // one colour filled as one: a temperature course has hundreds of lines and a thousand areas.
+  let offen = null, offen_schluessel = null;
   const schliessen = () => {
-    if (offen !== null) {
-      ctx.stroke();
-      offen = null;
-    }
+    if (offen === LINIE) ctx.stroke();
+    else if (offen === FLAECHE) ctx.fill();
+    offen = null;
+  };
+  const sammeln = (art, schluessel) => {
+    if (offen === art && offen_schluessel === schluessel) return false;
+    schliessen();
+    ctx.beginPath();
+    offen = art;
+    offen_schluessel = schluessel;
+    return true;
   };
   let i = 0;
   while (i < befehle.length) {
     const art = befehle[i];
-    if (art !== LINIE) schliessen();
+    if (art !== offen) schliessen();
     switch (art) {
       case LEEREN:
         ctx.fillStyle = farbe(befehle[i + 1]);
@@ -74,12 +81,9 @@ export function abspielen(canvas, befehle, texte, breite, hoehe, massstab) {
         // The end pixel is left out: the line stops half a pixel short of its end's centre.
         const dx = x2 - x1, dy = y2 - y1, l = Math.hypot(dx, dy);
         if (l > 0) {
-          if (offen !== schluessel) {
-            schliessen();
+          if (sammeln(LINIE, schluessel)) {
             ctx.strokeStyle = farbe(befehle[i + 5]);
             ctx.lineWidth = w;
-            ctx.beginPath();
-            offen = schluessel;
           }
           const o = w % 2 === 1 ? 0.5 : 0;
           const k = (l - 0.5) / l;
@@ -105,8 +109,8 @@ export function abspielen(canvas, befehle, texte, breite, hoehe, massstab) {
         const y = Math.min(r(befehle[i + 2]), r(befehle[i + 4]));
         const w = Math.abs(r(befehle[i + 3]) - r(befehle[i + 1])) + 1;
         const h = Math.abs(r(befehle[i + 4]) - r(befehle[i + 2])) + 1;
-        ctx.fillStyle = farbe(befehle[i + 5]);
-        ctx.fillRect(x, y, w, h);
+        if (sammeln(FLAECHE, befehle[i + 5])) ctx.fillStyle = farbe(befehle[i + 5]);
+        ctx.rect(x, y, w, h);
         i += 6;
         break;
       }

@@ -190,7 +190,10 @@ for (const [i, w] of layout.widgets.entries()) {
     case 'liste':
       el = document.createElement('select');
       if (w.modell) {
-        el.addEventListener('change', () => handeln(() => programm.setzen(w.modell, el.selectedIndex)));
+        el.addEventListener('change', () => {
+          handeln(() => programm.setzen(w.modell, el.selectedIndex));
+          nachziehen(w.modell);
+        });
       }
       break;
     case 'check':
@@ -206,6 +209,7 @@ for (const [i, w] of layout.widgets.entries()) {
         ein.addEventListener('click', (e) => {
           e.preventDefault();
           handeln(() => programm.setzen(w.modell, w.art === 'check' ? (ein.checked ? 1 : 0) : w.index));
+          nachziehen(w.modell);
         });
       }
       break;
@@ -378,42 +382,68 @@ function stil(el, name, wert) {
   if (el.style[name] !== wert) el.style[name] = wert;
 }
 
-// Brings every bound control to its model's state and replays the charts that were drawn anew.
-function abgleichen() {
-  zustand = JSON.parse(programm.zustand());
-  const gueltig = zustand.gueltig === 1;
-  for (const [name, s] of Object.entries(zustand.steuer)) {
-    for (const { el, w } of nach_modell.get(name) || []) {
-      if ('sichtbar' in s && w.art !== 'option') verbergen(el, s.sichtbar === 0);
-      if (w.art === 'scroll') {
-        el._abgleich(s);
-        el.classList.toggle('aus', s.aktiv === 0);
-      } else if (w.art === 'liste') {
-        if (el.options.length !== s.zeilen.length || s.zeilen.some((z, i) => el.options[i].text !== z)) {
-          el.replaceChildren(...s.zeilen.map((z) => new Option(z)));
-        }
-        if (el.selectedIndex !== s.index) el.selectedIndex = s.index;
-        if (el.disabled !== (s.aktiv === 0)) el.disabled = s.aktiv === 0;
-      } else if (w.art === 'check') {
-        if (el._ein.checked !== (s.wert === 1)) el._ein.checked = s.wert === 1;
-        if (el._ein.disabled !== (s.aktiv === 0)) el._ein.disabled = s.aktiv === 0;
-      } else if (w.art === 'option') {
-        if (el._ein.checked !== (s.gesetzt === w.index)) el._ein.checked = s.gesetzt === w.index;
-        if (el._ein.disabled !== (s.aktiv[w.index] === 0)) el._ein.disabled = s.aktiv[w.index] === 0;
-      } else {
-        const leer = w.ergebnis && !gueltig;
-        if (!(w.entwurf && s.text === '')) text_setzen(el, leer ? '' : s.text);
-        el.classList.toggle('grau', !!w.ergebnis && !gueltig);
-        el.classList.toggle('verdeckt', s.verdeckt === 1);
-        if (w.massstab) {
-          stil(el, 'left', s.links / w.massstab + 'px');
-          stil(el, 'top', s.oben / w.massstab + 'px');
-        }
+// The list's rows and choice as the model has them.
+function liste_folgen(el, s) {
+  if (el.options.length !== s.zeilen.length || s.zeilen.some((z, i) => el.options[i].text !== z)) {
+    el.replaceChildren(...s.zeilen.map((z) => new Option(z)));
+  }
+  if (el.selectedIndex !== s.index) el.selectedIndex = s.index;
+}
+
+// The widgets bound to the model `name` brought to its state `s`.
+function steuer_folgen(name, s, gueltig) {
+  for (const { el, w } of nach_modell.get(name) || []) {
+    if ('sichtbar' in s && w.art !== 'option') verbergen(el, s.sichtbar === 0);
+    if (w.art === 'scroll') {
+      el._abgleich(s);
+      el.classList.toggle('aus', s.aktiv === 0);
+    } else if (w.art === 'liste') {
+      liste_folgen(el, s);
+      if (el.disabled !== (s.aktiv === 0)) el.disabled = s.aktiv === 0;
+    } else if (w.art === 'check') {
+      if (el._ein.checked !== (s.wert === 1)) el._ein.checked = s.wert === 1;
+      if (el._ein.disabled !== (s.aktiv === 0)) el._ein.disabled = s.aktiv === 0;
+    } else if (w.art === 'option') {
+      if (el._ein.checked !== (s.gesetzt === w.index)) el._ein.checked = s.gesetzt === w.index;
+      if (el._ein.disabled !== (s.aktiv[w.index] === 0)) el._ein.disabled = s.aktiv[w.index] === 0;
+    } else {
+      const leer = w.ergebnis && !gueltig;
+      if (!(w.entwurf && s.text === '')) text_setzen(el, leer ? '' : s.text);
+      el.classList.toggle('grau', !!w.ergebnis && !gueltig);
+      el.classList.toggle('verdeckt', s.verdeckt === 1);
+      if (w.massstab) {
+        stil(el, 'left', s.links / w.massstab + 'px');
+        stil(el, 'top', s.oben / w.massstab + 'px');
       }
     }
   }
-  ebenen_folgen(zustand.ebenen, gueltig);
-  for (const [name, text] of Object.entries(zustand.felder)) {
+}
+
+// A widget the user changed in the browser shows the model's state again, also where the model
+// kept it as it was; after a prevented click the browser resets a box once the click is over.
+function nachziehen(name) {
+  steuer_folgen(name, zustand.steuer[name], zustand.gueltig === 1);
+  setTimeout(() => steuer_folgen(name, zustand.steuer[name], zustand.gueltig === 1));
+}
+
+// Brings the controls to their models' state and replays the charts that were drawn anew. The
+// module sends only what changed since the last time, so a step touches only what it changed;
+// a change of the results' validity greys or fills every result, so then all follow.
+function abgleichen() {
+  const neu = JSON.parse(programm.aenderungen());
+  const erstes = zustand === null;
+  if (erstes) zustand = { steuer: {}, felder: {}, diagramme: {} };
+  for (const [k, v] of Object.entries(neu)) {
+    if (k === 'steuer' || k === 'felder' || k === 'diagramme') Object.assign(zustand[k], v);
+    else zustand[k] = v;
+  }
+  const gueltig = zustand.gueltig === 1;
+  const alle = erstes || 'gueltig' in neu;
+  for (const [name, s] of Object.entries(alle ? zustand.steuer : neu.steuer)) {
+    steuer_folgen(name, s, gueltig);
+  }
+  if (alle || neu.ebenen || Object.keys(neu.steuer).length > 0) ebenen_folgen(zustand.ebenen, gueltig);
+  for (const [name, text] of Object.entries(alle ? zustand.felder : neu.felder)) {
     if (!feldelemente.has(name)) {
       // "E_Energie/Label8" names a control of one plane only.
       const [ebene, n] = name.includes('/') ? name.split('/') : [null, name];
@@ -422,26 +452,33 @@ function abgleichen() {
     }
     for (const el of feldelemente.get(name)) text_setzen(el, text);
   }
-  klima_folgen(zustand.klima);
-  // Electricity as the carrier has a single primary energy line.
-  const energie = nach_name.get('E_Energie');
-  for (const n of ['Label14', 'anz_q_PE_Strom', 'Label34', 'anz_Primärenergiefaktor_Strom']) {
-    const el = energie.querySelector(`[data-name="${n}"]`);
-    if (el) verbergen(el, zustand.felder.strom === 1);
+  if (alle || neu.klima) klima_folgen(zustand.klima);
+  if (alle || 'strom' in neu.felder) {
+    // Electricity as the carrier has a single primary energy line, without its unit.
+    const energie = nach_name.get('E_Energie');
+    const wert = energie.querySelector('[data-name="anz_q_PE_Strom"]');
+    for (const el of [...['Label14', 'Label34', 'anz_Primärenergiefaktor_Strom']
+      .map((n) => energie.querySelector(`[data-name="${n}"]`)), wert, wert?.nextElementSibling]) {
+      if (el) verbergen(el, zustand.felder.strom === 1);
+    }
   }
-  for (const n of AUSGABEN) nach_name.get(n).classList.toggle('grau', !gueltig);
+  if (alle) {
+    for (const n of AUSGABEN) nach_name.get(n).classList.toggle('grau', !gueltig);
+  }
   for (const [feld, { el }] of diagramme) {
     const fassung = zustand.diagramme[feld];
     if (gezeichnet.get(feld) !== fassung && sichtbar(el)) {
       zeichnen(feld);
       gezeichnet.set(feld, fassung);
     }
-    el.classList.toggle('grau', !gueltig);
+    if (alle) el.classList.toggle('grau', !gueltig);
   }
-  document.title = zustand.titel || 'Velmaris';
-  const fehler = document.getElementById('fehler');
-  fehler.textContent = zustand.fehler;
-  fehler.hidden = zustand.fehler === '';
+  if ('titel' in neu) document.title = zustand.titel || 'Velmaris';
+  if ('fehler' in neu) {
+    const fehler = document.getElementById('fehler');
+    fehler.textContent = zustand.fehler;
+    fehler.hidden = zustand.fehler === '';
+  }
 }
 
 // The climate plane: the scope options, the region list with the post code for Germany, the
@@ -460,12 +497,18 @@ for (let i = 1; i <= 3; ++i) {
 }
 for (const n of ['Klimaregionwahl', 'Klimaregionwahl2']) {
   const liste = im_klima(n);
-  liste.addEventListener('change', () => handeln(() => programm.klima(n, liste.selectedIndex, '')));
+  liste.addEventListener('change', () => {
+    handeln(() => programm.klima(n, liste.selectedIndex, ''));
+    klima_folgen(zustand.klima);
+  });
 }
 const plz = im_klima('plz');
 plz.maxLength = 5;
 plz.inputMode = 'numeric';
-const plz_suchen = () => handeln(() => programm.klima('plz', 0, plz.value));
+const plz_suchen = () => {
+  handeln(() => programm.klima('plz', 0, plz.value));
+  klima_folgen(zustand.klima);
+};
 im_klima('PLZsuchen').addEventListener('click', plz_suchen);
 plz.addEventListener('keydown', (e) => {
   if (e.key === 'Enter') plz_suchen();
@@ -627,7 +670,10 @@ zk_karte.addEventListener('mouseup', (e) => {
   const [x, y] = zk_ort(e);
   handeln(() => programm.zoom_klima_klick(x, y));
 });
-zk_liste.addEventListener('change', () => handeln(() => programm.zoom_klima_waehlen(zk_liste.selectedIndex)));
+zk_liste.addEventListener('change', () => {
+  handeln(() => programm.zoom_klima_waehlen(zk_liste.selectedIndex));
+  klima_folgen(zustand.klima);
+});
 zk_ok.addEventListener('click', () => zoomklima_zu(true));
 zk_abbrechen.addEventListener('click', () => zoomklima_zu(false));
 document.addEventListener('keydown', (e) => {
@@ -670,13 +716,7 @@ function klima_folgen(k) {
     karte.style.backgroundImage = `url("Grafiken/${bild}")`;
     karte.dataset.bild = bild;
   }
-  for (const n of ['Klimaregionwahl', 'Klimaregionwahl2']) {
-    const el = im_klima(n), s = k[n];
-    if (el.options.length !== s.zeilen.length || s.zeilen.some((z, i) => el.options[i].text !== z)) {
-      el.replaceChildren(...s.zeilen.map((z) => new Option(z)));
-    }
-    el.selectedIndex = s.index;
-  }
+  for (const n of ['Klimaregionwahl', 'Klimaregionwahl2']) liste_folgen(im_klima(n), k[n]);
   if (document.activeElement !== plz && plz.value !== k.plz) plz.value = k.plz;
 }
 
@@ -971,4 +1011,4 @@ document.body.classList.add('bereit');
 performance.mark('velmaris-bereit');
 
 // For the browser tests and the benchmark: the program and the page's own steps.
-window.velmaris = { programm, handeln, abgleichen, eingabe_zeigen, ausgabe_zeigen, monat_waehlen, speichern, FS, geladen, zustand: () => zustand, gezeichnet };
+window.velmaris = { modul, programm, handeln, abgleichen, eingabe_zeigen, ausgabe_zeigen, monat_waehlen, speichern, FS, geladen, zustand: () => zustand, gezeichnet };

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The browser page's program, run natively: a wrong control name or option index from the page
-// is refused without a fault, and every chart of a plane that comes up is drawn into its command
-// list, starting with the clearing of the surface. On the Europe and the world map a station dot
-// names its station and a release on it picks it; the land beside a dot does neither. The
-// enlarged temperature window draws the overview's month while it is open; the enlarged world map
-// chooses for itself and hands its choice to the plane only on OK.
+// is refused without a fault, after an action the page is sent only the pieces of the state that
+// changed, a project opened in the world scope scrolls the world map to its station, and every
+// chart of a plane that comes up is drawn into its command list, starting with the clearing of the
+// surface. On the Europe and the world map a station dot names its station and a release on it
+// picks it; the land beside a dot does neither. The enlarged temperature window draws the
+// overview's month while it is open; the enlarged world map chooses for itself and hands its choice
+// to the plane only on OK.
 #include "web/Webprogramm.h"
 
 #include "charts/A_Uebersicht.h"
 #include "climate/ebene/E_Klima.h"
 #include "project/c_glob.h"
+#include "tests/support/Testprojekt.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +53,42 @@ TEST(Webprogramm, RefusesWhatThePlanesDoNotHave) {
     EXPECT_FALSE(l.w.klicken("Command_HR(4)"));
     EXPECT_TRUE(l.w.gueltig());
     EXPECT_EQ(l.w.ergebnis(), vorher);
+}
+
+// A control's piece of the state, {"name":{...}}, as it stands in a state's JSON; empty if none.
+std::string teil(const std::string& json, const std::string& name) {
+    const auto a = json.find("\"" + name + "\":{");
+    return a == std::string::npos ? std::string() : json.substr(a, json.find('}', a) - a + 1);
+}
+
+TEST(Webprogramm, SendsThePageOnlyWhatChangedSinceItsLastCall) {
+    Lauf l;
+    const std::string leer = R"({"steuer":{},"felder":{},"diagramme":{}})";
+    EXPECT_EQ(l.w.aenderungen(), l.w.zustand());
+    EXPECT_EQ(l.w.aenderungen(), leer);
+
+    ASSERT_TRUE(l.w.pfeil("E_Geometrie.l_sb", 1));
+    const std::string schritt = l.w.aenderungen();
+    const std::string ganz = l.w.zustand();
+    struct Fall {
+        const char* name;
+        bool geschickt;
+    };
+    for (const Fall& f : {Fall{"E_Geometrie.l_sb", true}, Fall{"E_Geometrie.l_anz", true},
+                          Fall{"E_Geometrie.f_nfa_anz", true}, Fall{"E_Geometrie.b_sb", false},
+                          Fall{"E_Gebaeude.troom_anz", false}}) {
+        SCOPED_TRACE(f.name);
+        ASSERT_FALSE(teil(ganz, f.name).empty());
+        EXPECT_EQ(teil(schritt, f.name), f.geschickt ? teil(ganz, f.name) : std::string());
+    }
+    EXPECT_NE(schritt.find("\"Monatsbilanz\":"), std::string::npos);
+    EXPECT_EQ(schritt.find("\"gueltig\":"), std::string::npos);
+    EXPECT_EQ(l.w.aenderungen(), leer);
+
+    // A step there and back between two calls leaves the controls as the page has them.
+    ASSERT_TRUE(l.w.pfeil("E_Geometrie.l_sb", 1));
+    ASSERT_TRUE(l.w.pfeil("E_Geometrie.l_sb", -1));
+    EXPECT_EQ(teil(l.w.aenderungen(), "E_Geometrie.l_sb"), "");
 }
 
 TEST(Webprogramm, DrawsEveryChartOfThePlaneShown) {
@@ -101,6 +140,7 @@ std::string benannt(Webprogramm& w, int x, int y) {
 
 TEST(Webprogramm, StationMapsNameAndPickTheDotUnderThePointer) {
     Lauf l;
+    ASSERT_TRUE(l.w.eingabe_zeigen(Webprogramm::Klima));
     for (int bereich : {2, 3}) {
         SCOPED_TRACE(bereich);
         ASSERT_TRUE(l.w.klima("Option", bereich, "")) << l.w.fehler();
@@ -135,6 +175,51 @@ TEST(Webprogramm, StationMapsNameAndPickTheDotUnderThePointer) {
     EXPECT_EQ(l.w.ebenen().klima.HScroll1, (650 - 336) * 15);
     ASSERT_TRUE(l.w.klima("HScroll1", -3, ""));
     EXPECT_EQ(l.w.ebenen().klima.HScroll1, 0);
+}
+
+TEST(Webprogramm, OpeningAProjectOfTheWorldScopeBringsItsStationIntoView) {
+    Lauf l;
+    TempOrdner ordner;
+    ASSERT_TRUE(l.w.klima("Option", 3, "")) << l.w.fehler();
+    const E_Klima& k = l.w.ebenen().klima;
+    const Stationsliste& welt = k.listen.Welt;
+    int west = 0;
+    int ost = 0;
+    for (int i = 1; i < welt.anzahl(); ++i) {
+        west = welt.punkt(i).first < welt.punkt(west).first ? i : west;
+        ost = welt.punkt(i).first > welt.punkt(ost).first ? i : ost;
+    }
+    // Each station saved, the map scrolled away from it, the project opened again.
+    struct Fall {
+        int station;
+        int vorher;
+        int nachher;
+        const char* datei;
+    };
+    for (const Fall& f :
+         {Fall{ost, 0, k.HScroll1_max, "ost.vel"}, Fall{west, k.HScroll1_max, 0, "west.vel"}}) {
+        SCOPED_TRACE(f.datei);
+        ASSERT_TRUE(l.w.klima("Klimaregionwahl2", f.station, "")) << l.w.fehler();
+        const std::string pfad = (ordner.pfad() / f.datei).string();
+        ASSERT_EQ(l.w.speichern(true, pfad), pfad);
+        ASSERT_TRUE(l.w.klima("HScroll1", f.vorher, ""));
+        ASSERT_EQ(k.HScroll1, f.vorher);
+        ASSERT_TRUE(l.w.oeffnen(pfad)) << l.w.fehler();
+        EXPECT_EQ(k.Klimaregionwahl2.ListIndex, f.station);
+        EXPECT_EQ(k.HScroll1, f.nachher);
+    }
+}
+
+TEST(Webprogramm, EnergyListEntriesStandUnderEachOtherByTheirWrappedLines) {
+    Lauf l;
+    ASSERT_TRUE(l.w.klicken("Command1"));
+    // Six pixels a character over 314: the first system's 84 characters take two lines of 13
+    // pixels, the electric direct heating one.
+    const auto& liste = l.w.ebenen().energie.Label_Auswahl;
+    EXPECT_EQ(liste[0].Height, 2 * 13 * 15);
+    EXPECT_EQ(liste[1].Top, liste[0].Top + liste[0].Height + 120);
+    EXPECT_EQ(liste[7].Caption, "Elektro-Direktheizung");
+    EXPECT_EQ(liste[7].Height, 13 * 15);
 }
 
 TEST(Webprogramm, EnlargedTemperatureWindowFollowsTheMonthWhileOpen) {
