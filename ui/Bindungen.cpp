@@ -3,7 +3,7 @@
 #include "ui/Massstab.h"
 
 #include "planes/CheckField.h"
-#include "planes/Label.h"
+#include "project/Label.h"
 #include "planes/ListField.h"
 #include "planes/OptionGroup.h"
 #include "planes/ScrollField.h"

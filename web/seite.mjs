@@ -423,12 +423,6 @@ function abgleichen() {
     for (const el of feldelemente.get(name)) text_setzen(el, text);
   }
   klima_folgen(zustand.klima);
-  // Electricity as the carrier has a single primary energy line.
-  const energie = nach_name.get('E_Energie');
-  for (const n of ['Label14', 'anz_q_PE_Strom', 'Label34', 'anz_Primärenergiefaktor_Strom']) {
-    const el = energie.querySelector(`[data-name="${n}"]`);
-    if (el) verbergen(el, zustand.felder.strom === 1);
-  }
   for (const n of AUSGABEN) nach_name.get(n).classList.toggle('grau', !gueltig);
   for (const [feld, { el }] of diagramme) {
     const fassung = zustand.diagramme[feld];
