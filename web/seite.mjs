@@ -415,10 +415,7 @@ function abgleichen() {
   ebenen_folgen(zustand.ebenen, gueltig);
   for (const [name, text] of Object.entries(zustand.felder)) {
     if (!feldelemente.has(name)) {
-      // "E_Energie/Label8" names a control of one plane only.
-      const [ebene, n] = name.includes('/') ? name.split('/') : [null, name];
-      const wo = ebene ? nach_name.get(ebene) : flaeche;
-      feldelemente.set(name, [...wo.querySelectorAll(`[data-feld="${n}"], [data-name="${n}"]`)]);
+      feldelemente.set(name, [...flaeche.querySelectorAll(`[data-feld="${name}"], [data-name="${name}"]`)]);
     }
     for (const el of feldelemente.get(name)) text_setzen(el, text);
   }
