@@ -20,7 +20,8 @@ namespace {
 // output plane `ausgabe` shown (by the order of A_Menue), the window `massstab` times the design.
 void schritt(benchmark::State& state, int ebene, const char* balken, int ausgabe,
              int massstab = 1) {
-    Desktopprogramm programm;
+    auto datensatz = std::make_unique<Projekt>();
+    Desktopprogramm programm(*datensatz);
     programm.starten("d");
     Hauptfenster& haupt = *programm.haupt;
     haupt.resize(800 * massstab, 546 * massstab + haupt.menuBar()->sizeHint().height());

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "planes/CheckField.h"
-#include "planes/Label.h"
 #include "planes/ListField.h"
 #include "planes/OptionGroup.h"
 #include "planes/ScrollField.h"
+#include "project/Label.h"
 
 struct Projekt;
 

@@ -2,10 +2,17 @@
 #include "planes/E_Energie.h"
 
 #include "calc/c_mod.h"
+#include "energy/energie.h"
 #include "project/Laufzeitfehler.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
-E_Energie::E_Energie(Projekt& p) : Heizsysteme(katalog_laden(p.Sprache)), p_(p) {}
+E_Energie::E_Energie(Projekt& p, char dezimal)
+    : Heizsysteme(katalog_laden(p.Sprache)), p_(p), dezimal_(dezimal) {
+    for (Label* teil : {&anz_q_ce, &anz_q_d, &anz_q_s, &anz_q_d_he, &anz_q_s_he, &anz_q_g_he}) {
+        teil->Visible = false;
+    }
+}
 
 const Heizsystemzeile& E_Energie::zeile() const {
     if (p_.Heizsystem < 1 || p_.Heizsystem > 9) {
@@ -92,4 +99,38 @@ void E_Energie::felder_zeigen() {
     Label_Uebergabe.Caption = z.Uebergabe[static_cast<std::size_t>(p_.Uebergabe - 1)];
     Label_Energietraeger.Caption =
         z.Energietraeger[static_cast<std::size_t>(p_.Energietraeger - 1)];
+}
+
+void E_Energie::ergebnisse_zeigen() {
+    const Energiekennwerte& k = p_.Energie;
+    // Each figure keeps its own width: a float is formatted as a float.
+    auto zahl = [this](auto wert) { return format_muster(wert, "0.0", dezimal_); };
+    const bool englisch = p_.Sprache == "e";
+    const std::string name = englisch ? k.Traegername_e : k.Traegername;
+    Label8.Caption = (englisch ? "heating energy demand (" : "Heizenergiebedarf (") + name + "):";
+    Label21.Caption =
+        (englisch ? "primary energy demand (" : "Primärenergiebedarf (") + name + "):";
+    Label27.Caption = name + ":";
+    // Electricity has a single primary energy line, which carries the auxiliary energy too.
+    const bool strom = k.Traegername == "Strom";
+    for (Label* zeile :
+         {&Label14, &Label6, &anz_q_PE_Strom, &Label34, &anz_Primaerenergiefaktor_Strom}) {
+        zeile->Visible = !strom;
+    }
+    anz_qhs_sum.Caption = zahl(p_.qhs_sum);
+    anz_q_verlust.Caption = zahl(k.q_s + k.q_ce + k.q_d);
+    anz_e_g.Caption = format_muster(k.e_g, "0.00", dezimal_);
+    anz_q_HE_Energietraeger.Caption = zahl(p_.q_HE_Energietraeger);
+    anz_q_HE_Strom.Caption = zahl(p_.q_HE_Strom);
+    anz_q_PE_Energietraeger.Caption =
+        zahl(strom ? p_.q_PE_Strom + p_.q_PE_Energietraeger : p_.q_PE_Energietraeger);
+    anz_q_PE_Strom.Caption = zahl(p_.q_PE_Strom);
+    anz_Primaerenergiefaktor_Energietraeger.Caption = zahl(k.f_p);
+    anz_Primaerenergiefaktor_Strom.Caption = zahl(PRIMAERFAKTOR_STROM);
+    anz_q_ce.Caption = zahl(k.q_ce);
+    anz_q_d.Caption = zahl(k.q_d);
+    anz_q_s.Caption = zahl(k.q_s);
+    anz_q_d_he.Caption = zahl(k.q_d_he);
+    anz_q_s_he.Caption = zahl(k.q_s_he);
+    anz_q_g_he.Caption = zahl(k.q_g_he);
 }

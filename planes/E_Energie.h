@@ -2,7 +2,7 @@
 #pragma once
 
 #include "energy/katalog.h"
-#include "planes/Label.h"
+#include "project/Label.h"
 
 #include <array>
 #include <functional>
@@ -12,10 +12,11 @@ struct Projekt;
 
 // The selection part of the energy plane: three fields for heating system, transfer and
 // carrier, each with a button that opens a list of the catalogue's entries under it. Choosing
-// runs the driver but does not mark the project changed.
+// runs the driver but does not mark the project changed. Below them the year's supply figures.
 class E_Energie {
 public:
-    explicit E_Energie(Projekt& p);
+    // `dezimal` is the decimal mark of the figures.
+    explicit E_Energie(Projekt& p, char dezimal = '.');
     E_Energie(const E_Energie&) = delete;
     E_Energie& operator=(const E_Energie&) = delete;
 
@@ -32,6 +33,18 @@ public:
                              // or "Label_Energieträger"
     std::array<Heizsystemzeile, 9> Heizsysteme; // the catalogue in the language of the run
 
+    // The supply figures of the last whole run, "0.0" (e_g "0.00").
+    Label anz_qhs_sum, anz_q_verlust, anz_e_g;
+    Label anz_q_HE_Energietraeger, anz_q_HE_Strom, anz_q_PE_Energietraeger, anz_q_PE_Strom;
+    Label anz_Primaerenergiefaktor_Energietraeger, anz_Primaerenergiefaktor_Strom;
+    // The supply's parts: never shown, the report reads them.
+    Label anz_q_ce, anz_q_d, anz_q_s, anz_q_d_he, anz_q_s_he, anz_q_g_he;
+    // The captions that name the carrier.
+    Label Label8, Label21, Label27;
+    // The electricity lines' captions and unit keep their design text; with electricity as the
+    // carrier they hide, as do anz_q_PE_Strom and anz_Primaerenergiefaktor_Strom.
+    Label Label14, Label6, Label34;
+
     // The buttons beside the three fields: fill the list and open or close it.
     void Command1_Click();
     void Command2_Click();
@@ -43,6 +56,8 @@ public:
     // The three fields show the stored choice. Throws Laufzeitfehler for an index outside the
     // catalogue.
     void felder_zeigen();
+    // The figures and carrier captions of the record's last run, in the language of the record.
+    void ergebnisse_zeigen();
 
 private:
     void liste_oeffnen(const Label& feld, const std::string& name, const std::string* texte,
@@ -50,4 +65,5 @@ private:
     const Heizsystemzeile& zeile() const;
 
     Projekt& p_;
+    char dezimal_;
 };

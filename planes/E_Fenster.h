@@ -2,8 +2,8 @@
 #pragma once
 
 #include "planes/Fensterfassade.h"
-#include "planes/Label.h"
 #include "planes/OptionGroup.h"
+#include "project/Label.h"
 
 #include <array>
 

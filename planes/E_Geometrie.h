@@ -2,9 +2,9 @@
 #pragma once
 
 #include "planes/CheckField.h"
-#include "planes/Label.h"
 #include "planes/OptionGroup.h"
 #include "planes/ScrollField.h"
+#include "project/Label.h"
 
 #include <string>
 

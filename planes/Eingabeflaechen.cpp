@@ -5,13 +5,15 @@
 
 Eingabeflaechen::Eingabeflaechen(Projekt& p, char dezimal_zeichen)
     : dezimal(dezimal_zeichen), daemmung(p, dezimal), fenster(p, dezimal),
-      geometrie(p, daemmung, dezimal), gebaeude(p, fenster, dezimal), energie(p),
+      geometrie(p, daemmung, dezimal), gebaeude(p, fenster, dezimal), energie(p, dezimal),
       beobachtung_(p.beobachter, *this) {
     E_Klima_erstellen(klima, p);
 }
 
-void Eingabeflaechen::geometrie_berechnet(Projekt&) {
+void Eingabeflaechen::geometrie_berechnet(Projekt& p) {
     ++laeufe;
+    // Every run follows a station's read, also one that the load guard cuts short.
+    klima_jahreswerte_zeigen(klima, p, dezimal);
     geometrie.anzeigen();
     fenster.anzeigen();
 }
@@ -20,6 +22,7 @@ void Eingabeflaechen::alles_berechnet(Projekt&) {
     ++ganze_laeufe;
     gebaeude.speicher_anzeigen();
     energie.felder_zeigen();
+    energie.ergebnisse_zeigen();
     if (geometrie.Visible) {
         geometrie.AV_diagramm();
     }

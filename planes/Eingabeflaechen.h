@@ -12,8 +12,9 @@
 struct Projekt;
 
 // The input planes of one project, built in the language of the run. They follow every driver
-// run on their project: the geometry and window displays after each run, the heat capacity,
-// the heat supply texts and the A/V chart after a whole one.
+// run on their project: the geometry and window displays and the station's year values after
+// each run, the heat capacity, the heat supply texts and figures and the A/V chart after a whole
+// one.
 class Eingabeflaechen : public Rechenbeobachter {
 public:
     // `dezimal` is the decimal mark of the displays' number patterns.

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "planes/Label.h"
 #include "planes/ListField.h"
 #include "planes/ScrollField.h"
+#include "project/Label.h"
 
 #include <array>
 #include <cstdint>

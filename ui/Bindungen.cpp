@@ -3,11 +3,11 @@
 #include "ui/Massstab.h"
 
 #include "planes/CheckField.h"
-#include "planes/Label.h"
 #include "planes/ListField.h"
 #include "planes/OptionGroup.h"
 #include "planes/ScrollField.h"
 #include "project/FatalError.h"
+#include "project/Label.h"
 #include "project/Laufzeitfehler.h"
 
 #include <QCheckBox>

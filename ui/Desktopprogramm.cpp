@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Desktopprogramm.h"
 
-#include "project/pfade.h"
 #include "charts/A_Heizen.h"
 #include "charts/Neuzeichnen.h"
 #include "language/c_Sprache.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
 #include "project/lebenszyklus/eingaben_anzeigen.h"
+#include "project/pfade.h"
 #include "ui/ChartWidget.h"
 #include "ui/Drucken.h"
 #include "ui/Massstab.h"
@@ -41,9 +41,9 @@ std::string befehlszeile_aus(const QStringList& argumente) {
     return argumente.join(QLatin1Char(' ')).toStdString();
 }
 
-Desktopprogramm::Desktopprogramm(Dialogs* dialoge, Sprachwahl sprachwahl)
-    : p(projekt()), klimaordner(datenordner("klima")),
-      einstellungen(benutzerordner().einstellungen), eigene_stationen(benutzerordner().stationen),
+Desktopprogramm::Desktopprogramm(Projekt& projekt, Dialogs* dialoge, Sprachwahl sprachwahl)
+    : p(projekt), klimaordner(datenordner("klima")), einstellungen(benutzerordner().einstellungen),
+      eigene_stationen(benutzerordner().stationen),
       dokumente(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString()),
       import_dialoge(std::make_unique<QtImportDialoge>()),
       dialoge_(dialoge != nullptr ? dialoge : &qt_dialoge_), sprachwahl_(std::move(sprachwahl)) {

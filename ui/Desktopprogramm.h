@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/shell/Rechenlauf.h"
 #include "charts/Auffrischtabelle.h"
 #include "charts/Flaechen.h"
 #include "language/c_Sprache.h"
@@ -13,7 +14,6 @@
 #include "ui/KlimaimportFenster.h"
 #include "ui/QtDialogs.h"
 #include "ui/QtUebersetzung.h"
-#include "app/shell/Rechenlauf.h"
 #include "ui/StartFenster.h"
 #include "ui/ZoomFenster.h"
 
@@ -28,14 +28,15 @@ struct Projekt;
 // joined by blanks, each as the system gave it.
 std::string befehlszeile_aus(const QStringList& argumente);
 
-// The desktop program on the record projekt(): the language of the run, the planes and their
+// The desktop program on the record `p`: the language of the run, the planes and their
 // widgets, the project commands, the start window and the help. Faults of the calculation are
 // shown and leave the results marked as not valid until the next change calculates anew.
 class Desktopprogramm {
 public:
     // `dialoge` answers the project's dialogs; without it Qt's message boxes and file dialogs
     // do. `sprachwahl` stands for the language window of a first start when given.
-    explicit Desktopprogramm(Dialogs* dialoge = nullptr, Sprachwahl sprachwahl = nullptr);
+    explicit Desktopprogramm(Projekt& projekt, Dialogs* dialoge = nullptr,
+                             Sprachwahl sprachwahl = nullptr);
     ~Desktopprogramm();
     Desktopprogramm(const Desktopprogramm&) = delete;
     Desktopprogramm& operator=(const Desktopprogramm&) = delete;

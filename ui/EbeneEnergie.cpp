@@ -2,9 +2,7 @@
 #include "charts/ChartTheme.h"
 #include "charts/Ebenenlage.h"
 #include "charts/Tooltiptexte.h"
-#include "energy/energie.h"
 #include "planes/E_Energie.h"
-#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 #include "ui/Bau.h"
 #include "ui/Bindungen.h"
@@ -105,7 +103,8 @@ EnergieDiagramme energie_bauen(QWidget& e, E_Energie& g, const Projekt& p,
     QLabel* pe_s = zeile(&e, "Label14", "Primärenergiebedarf (Strom):", 298, true);
     pe_s->setObjectName(QStringLiteral("anz_q_PE_Strom"));
     QLabel* label14 = e.findChild<QLabel*>(QStringLiteral("Label14"));
-    QLabel* einheit14 = einheit;
+    QLabel* label6 = einheit;
+    label6->setObjectName(QStringLiteral("Label6"));
 
     QGroupBox* frame8 = rahmen(&e, "Frame8", "Primärenergiefaktoren", 2, 316, 172, 56);
     QLabel* label27 = text(frame8, "Label27", "", 8, 18, 100);
@@ -119,12 +118,17 @@ EnergieDiagramme energie_bauen(QWidget& e, E_Energie& g, const Projekt& p,
     }
 
     // The supply's parts never show; the report reads them.
+    const std::array<std::pair<const char*, const Label*>, 6> teile{
+        {{"anz_q_ce", &g.anz_q_ce},
+         {"anz_q_d", &g.anz_q_d},
+         {"anz_q_s", &g.anz_q_s},
+         {"anz_q_d_he", &g.anz_q_d_he},
+         {"anz_q_s_he", &g.anz_q_s_he},
+         {"anz_q_g_he", &g.anz_q_g_he}}};
     std::array<QLabel*, 6> verborgen{};
-    const std::array<const char*, 6> namen{"anz_q_ce",   "anz_q_d",    "anz_q_s",
-                                           "anz_q_d_he", "anz_q_s_he", "anz_q_g_he"};
-    for (std::size_t i = 0; i < namen.size(); ++i) {
+    for (std::size_t i = 0; i < teile.size(); ++i) {
         verborgen[i] = anzeige(&e, 0, 0);
-        verborgen[i]->setObjectName(QString::fromUtf8(namen[i]));
+        verborgen[i]->setObjectName(QString::fromUtf8(teile[i].first));
         verborgen[i]->hide();
     }
 
@@ -190,7 +194,7 @@ EnergieDiagramme energie_bauen(QWidget& e, E_Energie& g, const Projekt& p,
         return QPoint(ort.x, ort.y);
     };
 
-    bau.binden.push_back([=, &g, &p](Bindungen& bd) {
+    bau.binden.push_back([=, &g](Bindungen& bd) {
         QObject::connect(c1, &QPushButton::clicked, frame,
                          [&bd, &g] { bd.ausfuehren([&g] { g.Command1_Click(); }); });
         QObject::connect(c2, &QPushButton::clicked, frame,
@@ -207,7 +211,31 @@ EnergieDiagramme energie_bauen(QWidget& e, E_Energie& g, const Projekt& p,
         bd.label(*system, g.Label_System);
         bd.label(*uebergabe, g.Label_Uebergabe);
         bd.label(*traeger, g.Label_Energietraeger);
-        bd.folgen([=, &g, &p, &bd] {
+        for (const auto& [l, m] : std::initializer_list<std::pair<QLabel*, const Label*>>{
+                 {label8, &g.Label8}, {label21, &g.Label21}, {label27, &g.Label27}}) {
+            bd.label(*l, *m);
+        }
+        // The electricity lines' captions keep the design's text; the model only hides them.
+        for (const auto& [l, m] : std::initializer_list<std::pair<QLabel*, const Label*>>{
+                 {label14, &g.Label14}, {label6, &g.Label6}, {label34, &g.Label34}}) {
+            bd.label(*l, *m, Art::Entwurf);
+        }
+        for (const auto& [l, m] : std::initializer_list<std::pair<QLabel*, const Label*>>{
+                 {qhs, &g.anz_qhs_sum},
+                 {verlust, &g.anz_q_verlust},
+                 {e_g, &g.anz_e_g},
+                 {he_t, &g.anz_q_HE_Energietraeger},
+                 {he_s, &g.anz_q_HE_Strom},
+                 {pe_t, &g.anz_q_PE_Energietraeger},
+                 {pe_s, &g.anz_q_PE_Strom},
+                 {fp_t, &g.anz_Primaerenergiefaktor_Energietraeger},
+                 {fp_s, &g.anz_Primaerenergiefaktor_Strom}}) {
+            bd.label(*l, *m, Art::Ergebnis);
+        }
+        for (std::size_t i = 0; i < teile.size(); ++i) {
+            bd.label(*verborgen[i], *teile[i].second);
+        }
+        bd.folgen([=, &g] {
             // The panel and its stacked entries, twips of the model.
             for (std::size_t i = 0; i < d.Label_Auswahl.size(); ++i) {
                 const Label& m = g.Label_Auswahl[i];
@@ -221,41 +249,6 @@ EnergieDiagramme energie_bauen(QWidget& e, E_Energie& g, const Projekt& p,
             frame->setVisible(g.Frame_Auswahl_Visible);
             if (g.Frame_Auswahl_Visible) {
                 frame->raise();
-            }
-
-            const Energiekennwerte& k = p.Energie;
-            const bool englisch = sprache == "e";
-            const std::string name = englisch ? k.Traegername_e : k.Traegername;
-            label8->setText(QString::fromStdString(
-                (englisch ? "heating energy demand (" : "Heizenergiebedarf (") + name + "):"));
-            label21->setText(QString::fromStdString(
-                (englisch ? "primary energy demand (" : "Primärenergiebedarf (") + name + "):"));
-            label27->setText(QString::fromStdString(name + ":"));
-            // Electricity has a single primary energy line.
-            const bool strom = k.Traegername == "Strom";
-            for (QWidget* w :
-                 std::initializer_list<QWidget*>{label14, einheit14, pe_s, label34, fp_s}) {
-                w->setVisible(!strom);
-            }
-            const bool gueltig = bd.gueltig();
-            auto setzen = [gueltig](QLabel* l, const std::string& t) {
-                l->setText(gueltig ? QString::fromStdString(t) : QString());
-                l->setEnabled(gueltig);
-            };
-            setzen(qhs, format_muster(p.qhs_sum, "0.0", dez));
-            setzen(verlust, format_muster(k.q_s + k.q_ce + k.q_d, "0.0", dez));
-            setzen(e_g, format_muster(k.e_g, "0.00", dez));
-            setzen(he_t, format_muster(p.q_HE_Energietraeger, "0.0", dez));
-            setzen(he_s, format_muster(p.q_HE_Strom, "0.0", dez));
-            setzen(pe_t, format_muster(strom ? p.q_PE_Strom + p.q_PE_Energietraeger
-                                             : p.q_PE_Energietraeger,
-                                       "0.0", dez));
-            setzen(pe_s, format_muster(p.q_PE_Strom, "0.0", dez));
-            setzen(fp_t, format_muster(k.f_p, "0.0", dez));
-            setzen(fp_s, format_muster(PRIMAERFAKTOR_STROM, "0.0", dez));
-            const std::array<float, 6> teile{k.q_ce, k.q_d, k.q_s, k.q_d_he, k.q_s_he, k.q_g_he};
-            for (std::size_t i = 0; i < teile.size(); ++i) {
-                verborgen[i]->setText(QString::fromStdString(format_muster(teile[i], "0.0", dez)));
             }
         });
     });

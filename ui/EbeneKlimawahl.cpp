@@ -2,7 +2,6 @@
 #include "climate/Bitmap.h"
 #include "climate/ebene/E_Klima.h"
 #include "climate/ebene/stationskarten.h"
-#include "project/Zahlformat.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
 #include "ui/Bau.h"
@@ -294,6 +293,9 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
         };
         // The window's title is the caption above its list, in the language of the run.
         w.E_Zoom_Klima->setWindowTitle(w.E_Zoom_Klima->ueberschrift->text());
+        bd.label(*w.anz_MittelJahrTemp, k.anz_MittelJahrTemp);
+        bd.label(*w.anz_MinMonatTemp, k.anz_MinMonatTemp);
+        bd.label(*w.anz_MaxMonatTemp, k.anz_MaxMonatTemp);
         // The climate information plane, built beside this one, if the window holds it.
         QLabel* klimaname = ebene->window()->findChild<QLabel*>(QStringLiteral("anz_klimaregion"));
         bd.folgen([=, &k, &p] {
@@ -327,17 +329,6 @@ KlimawahlFelder klimawahl_bauen(QWidget& e, E_Klima& k, Projekt& p, Dialogs& d,
             if (klimaname != nullptr) {
                 name_setzen(*klimaname, QString::fromStdString(p.Klimainfo.Klimaname));
             }
-            // The year values of the station read last; none before the first read.
-            const Klimakennwerte& info = p.Klimainfo;
-            const bool jahreswerte = info.MaxMonat >= 1 && info.MaxMonat <= 12;
-            const char dez = p.Sprache == "e" ? '.' : ',';
-            auto wert = [&](float v) {
-                return jahreswerte ? QString::fromStdString(format_muster(v, "0.0", dez))
-                                   : QString();
-            };
-            w.anz_MittelJahrTemp->setText(wert(info.MittelJahrTemp));
-            w.anz_MinMonatTemp->setText(wert(info.MinMonatTemp));
-            w.anz_MaxMonatTemp->setText(wert(info.MaxMonatTemp));
             {
                 const QSignalBlocker still(w.Klimaregionwahl);
                 zeilen_setzen(*regionen, k.Klimaregionwahl);

@@ -142,6 +142,33 @@ void energie(Liste l, E_Energie& g) {
     for (std::size_t i = 0; i < g.Label_Auswahl.size(); ++i) {
         l("Label_Auswahl(" + std::to_string(i + 1) + ")", g.Label_Auswahl[i]);
     }
+    FELD(l, g, anz_qhs_sum);
+    FELD(l, g, anz_q_verlust);
+    FELD(l, g, anz_e_g);
+    FELD(l, g, anz_q_HE_Energietraeger);
+    FELD(l, g, anz_q_HE_Strom);
+    FELD(l, g, anz_q_PE_Energietraeger);
+    FELD(l, g, anz_q_PE_Strom);
+    FELD(l, g, anz_Primaerenergiefaktor_Energietraeger);
+    FELD(l, g, anz_Primaerenergiefaktor_Strom);
+    FELD(l, g, anz_q_ce);
+    FELD(l, g, anz_q_d);
+    FELD(l, g, anz_q_s);
+    FELD(l, g, anz_q_d_he);
+    FELD(l, g, anz_q_s_he);
+    FELD(l, g, anz_q_g_he);
+    FELD(l, g, Label8);
+    FELD(l, g, Label21);
+    FELD(l, g, Label27);
+    FELD(l, g, Label14);
+    FELD(l, g, Label6);
+    FELD(l, g, Label34);
+}
+
+void klima(Liste l, E_Klima& k) {
+    FELD(l, k, anz_MittelJahrTemp);
+    FELD(l, k, anz_MinMonatTemp);
+    FELD(l, k, anz_MaxMonatTemp);
 }
 
 #undef FELD
@@ -155,5 +182,6 @@ std::vector<Steuerelement> steuerelemente(Eingabeflaechen& e) {
     daemmung({s, "E_Daemmung"}, e.daemmung);
     gebaeude({s, "E_Gebaeude"}, e.gebaeude);
     energie({s, "E_Energie"}, e.energie);
+    klima({s, "E_Klima"}, e.klima);
     return s;
 }

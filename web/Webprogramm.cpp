@@ -2,6 +2,7 @@
 #include "web/Webprogramm.h"
 
 #include "app/shell/JsonWriter.h"
+#include "app/shell/Rechenlauf.h"
 #include "app/shell/ergebnis_json.h"
 #include "charts/A_Heizen.h"
 #include "charts/A_Uebersicht.h"
@@ -9,17 +10,14 @@
 #include "charts/Tooltiptexte.h"
 #include "climate/ebene/E_Klima.h"
 #include "climate/ebene/E_Zoom_Klima.h"
-#include "climate/klimainfo_texte.h"
 #include "climate/ebene/stationskarten.h"
-#include "energy/energie.h"
+#include "climate/klimainfo_texte.h"
 #include "language/c_Sprache.h"
-#include "project/Zahlformat.h"
 #include "project/FatalError.h"
 #include "project/Laufzeitfehler.h"
 #include "project/c_glob.h"
 #include "report/Report.h"
 #include "report/Temperaturverlauf.h"
-#include "app/shell/Rechenlauf.h"
 
 #include <cmath>
 #include <stdexcept>
@@ -107,10 +105,10 @@ constexpr int32_t WEISS = 0xffffff;
 
 } // namespace
 
-Webprogramm::Webprogramm(const std::string& sprache, const std::string& klima,
+Webprogramm::Webprogramm(Projekt& projekt, const std::string& sprache, const std::string& klima,
                          CanvasFlaeche::Textmass breite, CanvasFlaeche::Textmass hoehe,
                          Seitendialoge& dialoge)
-    : p(projekt()), dialoge_(dialoge) {
+    : p(projekt), dialoge_(dialoge) {
     p.KlimaOrdner = klima;
     p.Gestartet = 0;
     sprache_beim_start(p, sprache == "e" ? "e" : "d", [] { return std::string(); });
@@ -981,32 +979,6 @@ std::vector<Webprogramm::Zustandsteil> Webprogramm::zustandsteile() const {
              {"qtr_anz", &h.qtr_anz}}) {
         wert(Abschnitt::Felder, n, gueltig_ ? *t : std::string());
     }
-    // The energy plane's figures and the captions that name the carrier.
-    const Energiekennwerte& en = p.Energie;
-    const bool englisch = einstellung_.Sprache == "e";
-    const std::string traeger = englisch ? en.Traegername_e : en.Traegername;
-    const bool strom = en.Traegername == "Strom";
-    const char dez = einstellung_.dezimal;
-    wert(Abschnitt::Felder, "E_Energie/Label8",
-         (englisch ? "heating energy demand (" : "Heizenergiebedarf (") + traeger + "):");
-    wert(Abschnitt::Felder, "E_Energie/Label21",
-         (englisch ? "primary energy demand (" : "Primärenergiebedarf (") + traeger + "):");
-    wert(Abschnitt::Felder, "E_Energie/Label27", traeger + ":");
-    wert(Abschnitt::Felder, "strom", strom ? 1 : 0);
-    auto ergebnis = [this, &wert](const char* n, const std::string& t) {
-        wert(Abschnitt::Felder, n, gueltig_ ? t : std::string());
-    };
-    ergebnis("anz_qhs_sum", format_muster(p.qhs_sum, "0.0", dez));
-    ergebnis("anz_q_verlust", format_muster(en.q_s + en.q_ce + en.q_d, "0.0", dez));
-    ergebnis("anz_e_g", format_muster(en.e_g, "0.00", dez));
-    ergebnis("anz_q_HE_Energieträger", format_muster(p.q_HE_Energietraeger, "0.0", dez));
-    ergebnis("anz_q_HE_Strom", format_muster(p.q_HE_Strom, "0.0", dez));
-    ergebnis("anz_q_PE_Energieträger",
-             format_muster(strom ? p.q_PE_Strom + p.q_PE_Energietraeger : p.q_PE_Energietraeger,
-                           "0.0", dez));
-    ergebnis("anz_q_PE_Strom", format_muster(p.q_PE_Strom, "0.0", dez));
-    ergebnis("anz_Primärenergiefaktor_Energieträger", format_muster(en.f_p, "0.0", dez));
-    ergebnis("anz_Primärenergiefaktor_Strom", format_muster(PRIMAERFAKTOR_STROM, "0.0", dez));
     if (gueltig_) {
         const KlimainfoTexte k = klimainfo_texte(p, einstellung_.dezimal);
         for (const auto& [n, t] : std::initializer_list<std::pair<const char*, const std::string*>>{

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-// The program for the browser page on the record projekt(): the input planes and their
+// The program for the browser page on the record `p`: the input planes and their
 // controls by design name, the driver with its refresh table drawing onto canvas surfaces, the
 // project commands and the fault of the last action. A user's input goes to the model only,
 // which fires its handler; the page then reads the state of every control at once (zustand),
@@ -53,9 +53,10 @@ public:
     enum Eingabe { Geometrie, Fenster, Daemmung, Gebaeude, Klima, Energie };
     enum Ausgabe { Uebersicht, KlimaGebaeude, Heizen, Kuehlen, Sankey };
 
-    // The program in `sprache` ("d" or "e") on the station folder `klima`; `breite` and `hoehe`
-    // measure the texts of the charts. Its charts are made next, then it starts.
-    Webprogramm(const std::string& sprache, const std::string& klima,
+    // The program on the record `projekt` in `sprache` ("d" or "e") on the station folder
+    // `klima`; `breite` and `hoehe` measure the texts of the charts. Its charts are made next,
+    // then it starts.
+    Webprogramm(Projekt& projekt, const std::string& sprache, const std::string& klima,
                 CanvasFlaeche::Textmass breite, CanvasFlaeche::Textmass hoehe,
                 Seitendialoge& dialoge);
     ~Webprogramm();

@@ -72,8 +72,9 @@ public:
             }
         };
         auto m = mass_;
+        // The page's one record, as a program's main() holds it.
         programm_ = std::make_unique<Webprogramm>(
-            sprache, klima,
+            projekt(), sprache, klima,
             [m](const std::string& font, const std::string& text) { return m->breite(font, text); },
             [m](const std::string& font, const std::string&) { return m->hoehe(font); }, dialoge_);
     }

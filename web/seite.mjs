@@ -445,23 +445,11 @@ function abgleichen() {
   if (alle || neu.ebenen || Object.keys(neu.steuer).length > 0) ebenen_folgen(zustand.ebenen, gueltig);
   for (const [name, text] of Object.entries(alle ? zustand.felder : neu.felder)) {
     if (!feldelemente.has(name)) {
-      // "E_Energie/Label8" names a control of one plane only.
-      const [ebene, n] = name.includes('/') ? name.split('/') : [null, name];
-      const wo = ebene ? nach_name.get(ebene) : flaeche;
-      feldelemente.set(name, [...wo.querySelectorAll(`[data-feld="${n}"], [data-name="${n}"]`)]);
+      feldelemente.set(name, [...flaeche.querySelectorAll(`[data-feld="${name}"], [data-name="${name}"]`)]);
     }
     for (const el of feldelemente.get(name)) text_setzen(el, text);
   }
   if (alle || neu.klima) klima_folgen(zustand.klima);
-  if (alle || 'strom' in neu.felder) {
-    // Electricity as the carrier has a single primary energy line, without its unit.
-    const energie = nach_name.get('E_Energie');
-    const wert = energie.querySelector('[data-name="anz_q_PE_Strom"]');
-    for (const el of [...['Label14', 'Label34', 'anz_Primärenergiefaktor_Strom']
-      .map((n) => energie.querySelector(`[data-name="${n}"]`)), wert, wert?.nextElementSibling]) {
-      if (el) verbergen(el, zustand.felder.strom === 1);
-    }
-  }
   if (alle) {
     for (const n of AUSGABEN) nach_name.get(n).classList.toggle('grau', !gueltig);
   }

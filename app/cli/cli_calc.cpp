@@ -3,12 +3,13 @@
 #include "app/cli/befehle.h"
 #include "app/shell/cli_programm.h"
 #include "app/shell/ergebnis_json.h"
-#include "project/pfade.h"
 #include "calc/c_mod.h"
 #include "climate/klimadatei.h"
 #include "project/c_glob.h"
+#include "project/pfade.h"
 
-int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler) {
+int befehl_calc(Projekt& p, const std::vector<std::string>& args, std::ostream& aus,
+                std::ostream& fehler) {
     bool neu = false, stunden = false;
     std::string klima = datenordner("klima");
     std::string datei, sprache;
@@ -35,7 +36,7 @@ int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::os
     }
     if (!datei.empty()) {
         // A fresh start as the desktop's, then the project opened by the menu's own code.
-        KonsolenProgramm programm(klima, sprache);
+        KonsolenProgramm programm(p, klima, sprache);
         const int status = programm.oeffnen(datei, fehler);
         if (status != 0 && status != KonsolenProgramm::STATION_ERSETZT) {
             return status;
@@ -44,7 +45,6 @@ int befehl_calc(const std::vector<std::string>& args, std::ostream& aus, std::os
         return status;
     }
 
-    Projekt& p = projekt();
     p.AppPfad = programmordner();
     p.KlimaOrdner = klima;
     // The start sequence: build the new project with the guard set, then one recalculation.

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
-#include "project/pfade.h"
 #include "climate/Bitmap.h"
 #include "climate/ebene/E_Klima.h"
 #include "climate/klimaregionen.h"
 #include "climate/plz_suche.h"
 #include "climate/stationslisten.h"
 #include "project/c_glob.h"
+#include "project/pfade.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -31,7 +31,7 @@ int stationen(const std::vector<std::string>& ordner, std::ostream& aus) {
     return 0;
 }
 
-int plz(const std::string& klima, const std::string& code, std::ostream& aus,
+int plz(Projekt& p, const std::string& klima, const std::string& code, std::ostream& aus,
         std::ostream& fehler) {
     if (code.size() != 5) {
         fehler << "Bitte Postleitzahl 5-stellig eingeben!\n";
@@ -42,7 +42,6 @@ int plz(const std::string& klima, const std::string& code, std::ostream& aus,
         fehler << "  Keine gültige Postleitzahl!  \n";
         return 3;
     }
-    Projekt& p = projekt();
     neues_projekt(p);
     aus << region << "\t" << p.Regionsdatei[region] << "\t" << klimaregion(region).text << "\n";
     return 0;
@@ -62,7 +61,8 @@ int region(const std::string& programm, const std::string& x, const std::string&
 
 } // namespace
 
-int befehl_klima(const std::vector<std::string>& args, std::ostream& aus, std::ostream& fehler) {
+int befehl_klima(Projekt& p, const std::vector<std::string>& args, std::ostream& aus,
+                 std::ostream& fehler) {
     std::string klima = datenordner("klima");
     // The map pictures lie in Grafiken/ of the program folder.
     std::string programm = std::filesystem::path(datenordner("Grafiken")).parent_path().string();
@@ -86,7 +86,7 @@ int befehl_klima(const std::vector<std::string>& args, std::ostream& aus, std::o
         return stationen(ordner, aus);
     }
     if (worte.size() == 2 && worte[0] == "plz") {
-        return plz(klima, worte[1], aus, fehler);
+        return plz(p, klima, worte[1], aus, fehler);
     }
     if (worte.size() == 3 && worte[0] == "region") {
         return region(programm, worte[1], worte[2], aus);

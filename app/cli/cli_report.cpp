@@ -2,11 +2,12 @@
 #include "app/cli/befehle.h"
 #include "app/cli/cli_dateiargumente.h"
 #include "app/shell/cli_programm.h"
-#include "project/pfade.h"
 #include "project/c_glob.h"
+#include "project/pfade.h"
 #include "report/Report.h"
 
-int befehl_report(const std::vector<std::string>& args, std::ostream&, std::ostream& fehler) {
+int befehl_report(Projekt& p, const std::vector<std::string>& args, std::ostream&,
+                  std::ostream& fehler) {
     Dateiargumente a;
     int seite = 0;
     const auto seite_lesen = [&seite](const std::string& w) {
@@ -21,7 +22,7 @@ int befehl_report(const std::vector<std::string>& args, std::ostream&, std::ostr
                               fehler)) {
         return 1;
     }
-    KonsolenProgramm programm(a.klima.empty() ? datenordner("klima") : a.klima, a.sprache);
+    KonsolenProgramm programm(p, a.klima.empty() ? datenordner("klima") : a.klima, a.sprache);
     if (programm.oeffnen(a.projekt, fehler) != 0) {
         return 2;
     }

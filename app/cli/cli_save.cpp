@@ -2,10 +2,11 @@
 #include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
 #include "app/shell/cli_programm.h"
-#include "project/pfade.h"
 #include "project/c_glob.h"
+#include "project/pfade.h"
 
-int befehl_save(const std::vector<std::string>& args, std::ostream&, std::ostream& fehler) {
+int befehl_save(Projekt& p, const std::vector<std::string>& args, std::ostream&,
+                std::ostream& fehler) {
     std::string ziel, quelle;
     std::string klima = datenordner("klima");
     for (std::size_t i = 0; i < args.size(); ++i) {
@@ -24,7 +25,7 @@ int befehl_save(const std::vector<std::string>& args, std::ostream&, std::ostrea
         fehler << aufruf("save");
         return 1;
     }
-    KonsolenProgramm programm(klima, std::string());
+    KonsolenProgramm programm(p, klima, std::string());
     if (!quelle.empty()) {
         // A project whose station is missing is not written on the stand-in station.
         const int status = programm.oeffnen(quelle, fehler);

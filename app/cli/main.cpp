@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
         return args.empty() ? 1 : 0;
     }
     const std::vector<std::string> rest(args.begin() + 1, args.end());
+    Projekt& p = projekt();
     // COMMAND --help: that command's usage, whatever else stands beside it.
     for (const std::string& a : rest) {
         if ((a == "--help" || a == "-h") && !aufruf(args[0]).empty()) {
@@ -25,22 +26,22 @@ int main(int argc, char** argv) {
     }
     try {
         if (args[0] == "calc") {
-            return befehl_calc(rest, std::cout, std::cerr);
+            return befehl_calc(p, rest, std::cout, std::cerr);
         }
         if (args[0] == "save") {
-            return befehl_save(rest, std::cout, std::cerr);
+            return befehl_save(p, rest, std::cout, std::cerr);
         }
         if (args[0] == "import") {
             return befehl_import(rest, std::cout, std::cerr);
         }
         if (args[0] == "klima") {
-            return befehl_klima(rest, std::cout, std::cerr);
+            return befehl_klima(p, rest, std::cout, std::cerr);
         }
         if (args[0] == "report") {
-            return befehl_report(rest, std::cout, std::cerr);
+            return befehl_report(p, rest, std::cout, std::cerr);
         }
         if (args[0] == "temperaturen") {
-            return befehl_temperaturen(rest, std::cout, std::cerr);
+            return befehl_temperaturen(p, rest, std::cout, std::cerr);
         }
         if (args[0] == "drucken") {
             return befehl_drucken(rest, std::cout, std::cerr);
@@ -48,7 +49,7 @@ int main(int argc, char** argv) {
         std::cerr << "velmaris-cli: unknown command \"" << args[0] << "\"\n" << gesamtaufruf();
         return 1;
     } catch (const FatalError& fehler) {
-        std::cerr << "velmaris-cli: " << fehler.text(projekt().Sprache) << "\n";
+        std::cerr << "velmaris-cli: " << fehler.text(p.Sprache) << "\n";
         return 2;
     }
 }

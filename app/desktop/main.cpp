@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The desktop program: the command line as one text, as the start reads it.
 #include "project/FatalError.h"
+#include "project/c_glob.h"
 #include "ui/Desktopprogramm.h"
 
 #include <QApplication>
@@ -11,7 +12,7 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QStringList teile = QApplication::arguments();
     teile.removeFirst();
-    Desktopprogramm programm;
+    Desktopprogramm programm(projekt());
     try {
         programm.starten(befehlszeile_aus(teile));
     } catch (const FatalError& f) {

@@ -4,10 +4,10 @@
 // writer on the offscreen platform; only this program loads Qt.
 #include "app/cli/cli_drucken_argumente.h"
 #include "app/shell/cli_programm.h"
-#include "project/pfade.h"
+#include "print/qt/QtDrucker.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
-#include "print/qt/QtDrucker.h"
+#include "project/pfade.h"
 
 #include <QGuiApplication>
 
@@ -18,7 +18,7 @@
 
 namespace {
 
-int drucken(const std::vector<std::string>& args, std::ostream& fehler) {
+int drucken(Projekt& projekt, const std::vector<std::string>& args, std::ostream& fehler) {
     Druckargumente a;
     if (!druckargumente_lesen(args, a, fehler)) {
         return 1;
@@ -27,7 +27,7 @@ int drucken(const std::vector<std::string>& args, std::ostream& fehler) {
         a.klima = datenordner("klima");
     }
 
-    KonsolenProgramm programm(a.klima, a.sprache);
+    KonsolenProgramm programm(projekt, a.klima, a.sprache);
     if (programm.oeffnen(a.projekt, fehler) != 0) {
         fehler << "velmaris-cli drucken: cannot read the project \"" << a.projekt << "\"\n";
         return 2;
@@ -55,10 +55,11 @@ int drucken(const std::vector<std::string>& args, std::ostream& fehler) {
 } // namespace
 
 int main(int argc, char** argv) {
+    Projekt& p = projekt();
     try {
-        return drucken(std::vector<std::string>(argv + 1, argv + argc), std::cerr);
+        return drucken(p, std::vector<std::string>(argv + 1, argv + argc), std::cerr);
     } catch (const FatalError& fehler) {
-        std::cerr << "velmaris-cli: " << fehler.text(projekt().Sprache) << "\n";
+        std::cerr << "velmaris-cli: " << fehler.text(p.Sprache) << "\n";
         return 2;
     }
 }

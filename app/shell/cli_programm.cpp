@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/shell/cli_programm.h"
 
-#include "project/pfade.h"
 #include "language/c_Sprache.h"
 #include "project/c_glob.h"
+#include "project/pfade.h"
 
 #include <algorithm>
 
@@ -21,8 +21,9 @@ std::optional<std::string> KonsolenDialogs::speichern_dialog(const std::string&,
     return name;
 }
 
-KonsolenProgramm::KonsolenProgramm(const std::string& klima, const std::string& sprache)
-    : p(projekt()) {
+KonsolenProgramm::KonsolenProgramm(Projekt& projekt, const std::string& klima,
+                                   const std::string& sprache)
+    : p(projekt) {
     p.KlimaOrdner = klima;
     if (klima == datenordner("klima")) {
         const Benutzerordner eigene = benutzerordner();

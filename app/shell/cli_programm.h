@@ -31,11 +31,11 @@ public:
                                                 const std::string&) override;
 };
 
-// The program started as the desktop starts it, on the record projekt(): language, planes, the
-// new project on the default station. The station folder is `klima`; `sprache` "d" or "e", or
-// empty for the language file.
+// The program started as the desktop starts it, on the record `p`: language, planes, the new
+// project on the default station. The station folder is `klima`; `sprache` "d" or "e", or empty
+// for the language file.
 struct KonsolenProgramm {
-    KonsolenProgramm(const std::string& klima, const std::string& sprache);
+    KonsolenProgramm(Projekt& p, const std::string& klima, const std::string& sprache);
     Projekt& p;
     KonsolenDialogs dialogs;
     std::unique_ptr<Eingabeflaechen> ebenen;

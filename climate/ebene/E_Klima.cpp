@@ -2,10 +2,11 @@
 #include "climate/ebene/E_Klima.h"
 
 #include "climate/Bitmap.h"
+#include "climate/ebene/wetter_laden.h"
+#include "climate/klimainfo_texte.h"
 #include "climate/klimaregionen.h"
 #include "climate/plz_suche.h"
 #include "climate/stationsordner.h"
-#include "climate/ebene/wetter_laden.h"
 #include "project/Dialogs.h"
 #include "project/FatalError.h"
 #include "project/c_glob.h"
@@ -88,6 +89,13 @@ void klima_zeigen(E_Klima& e, Projekt& p) {
     }
     p.Klimainfo.Klimaname =
         p.Klimaauswahl == 1 ? "Region " + e.Klimaregionwahl.Text : e.Klimaregionwahl2.Text;
+}
+
+void klima_jahreswerte_zeigen(E_Klima& e, const Projekt& p, char dezimal) {
+    const KlimainfoTexte t = klimainfo_texte(p, dezimal);
+    e.anz_MittelJahrTemp.Caption = t.anz_MittelJahrTemp;
+    e.anz_MinMonatTemp.Caption = t.anz_MinMonatTemp;
+    e.anz_MaxMonatTemp.Caption = t.anz_MaxMonatTemp;
 }
 
 void Klimaliste::waehlen(int i) {

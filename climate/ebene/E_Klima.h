@@ -7,6 +7,7 @@
 // the random source of the fallback pick can be replaced for tests.
 
 #include "climate/stationslisten.h"
+#include "project/Label.h"
 
 #include <functional>
 #include <string>
@@ -40,6 +41,8 @@ struct E_Klima {
     int picture3f_breite = 0;       // width of the frame that shows the world map, twips
     int karte_gezeichnet = 0;       // how often the Europe or the world map was redrawn
     std::function<double()> zufall; // a random number in [0, 1)
+    // The year values of the station read last, as the climate information shows them.
+    Label anz_MittelJahrTemp, anz_MinMonatTemp, anz_MaxMonatTemp;
 };
 
 // Builds the plane: the region rows, the station lists of p.KlimaOrdner, the German map without
@@ -50,6 +53,9 @@ void E_Klima_erstellen(E_Klima& e, const Projekt& p);
 // region (none, with the station's name, for another station), and the climate information plane
 // names the station by the list of its scope as the plane shows it now.
 void klima_zeigen(E_Klima& e, Projekt& p);
+// The year values of the record's station with the decimal mark `dezimal`; empty before the
+// station's year values were read.
+void klima_jahreswerte_zeigen(E_Klima& e, const Projekt& p, char dezimal);
 
 // The three option handlers; each does nothing when fired with its option off (`an` false).
 // They set Klimaauswahl, show their scope and reconcile Klimadatei with it: a station that is in

@@ -8,7 +8,7 @@
 
 Reportprogramm::Reportprogramm(const std::string& sprache) {
     ordner.schreiben("trier.met", station_text(Stationskopf{}, synthetisches_wetter));
-    programm = std::make_unique<KonsolenProgramm>(ordner.pfad().string(), sprache);
+    programm = std::make_unique<KonsolenProgramm>(*datensatz, ordner.pfad().string(), sprache);
 }
 
 Reportquelle Reportprogramm::quelle() const {

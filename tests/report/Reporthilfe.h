@@ -13,6 +13,7 @@
 struct Reportprogramm {
     explicit Reportprogramm(const std::string& sprache);
     TempOrdner ordner;
+    std::unique_ptr<Projekt> datensatz = leeres_projekt();
     std::unique_ptr<KonsolenProgramm> programm;
     Reportquelle quelle() const;
     // The report of the language of the run.

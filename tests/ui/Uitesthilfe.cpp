@@ -25,9 +25,9 @@ void bild_speichern(QWidget& fenster, const QString& name) {
     }
 }
 
-std::unique_ptr<Desktopprogramm> programm_starten(Dialogs* dialoge, const TempOrdner& klima,
-                                                  const char* sprache) {
-    auto programm = std::make_unique<Desktopprogramm>(dialoge, [] { return std::string(); });
+std::unique_ptr<Testprogramm> programm_starten(Dialogs* dialoge, const TempOrdner& klima,
+                                               const char* sprache) {
+    auto programm = std::make_unique<Testprogramm>(dialoge, [] { return std::string(); });
     programm->klimaordner = klima.pfad().string();
     programm->starten(sprache);
     return programm;

@@ -2,15 +2,27 @@
 #pragma once
 
 #include "tests/support/Testprojekt.h"
+#include "ui/Desktopprogramm.h"
 
 #include <QPoint>
 #include <QString>
 #include <memory>
 
-class Desktopprogramm;
 struct Stationsliste;
 class Dialogs;
 class QWidget;
+
+// The record a test's program works on: built before the program, gone after it.
+struct EigenerDatensatz {
+    std::unique_ptr<Projekt> datensatz = leeres_projekt();
+};
+
+// The desktop program on a record of its own.
+class Testprogramm : private EigenerDatensatz, public Desktopprogramm {
+public:
+    explicit Testprogramm(Dialogs* dialoge = nullptr, Sprachwahl sprachwahl = nullptr)
+        : Desktopprogramm(*datensatz, dialoge, std::move(sprachwahl)) {}
+};
 
 // A copy of the delivered klima folder, so that a test may write its language file without
 // touching the source tree.
@@ -22,8 +34,8 @@ void bild_speichern(QWidget& fenster, const QString& name);
 
 // The desktop program started in `sprache` on the station folder `klima`, its message boxes and
 // file dialogs answered by `dialoge`.
-std::unique_ptr<Desktopprogramm> programm_starten(Dialogs* dialoge, const TempOrdner& klima,
-                                                  const char* sprache);
+std::unique_ptr<Testprogramm> programm_starten(Dialogs* dialoge, const TempOrdner& klima,
+                                               const char* sprache);
 
 // A row of the station list, not `ausser`, whose dot no other dot touches (6 pixels apart in
 // some axis), left or right of `rand`, so that a click on it can only mean this station; -1 if

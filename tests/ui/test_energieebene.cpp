@@ -24,7 +24,7 @@ class TestEnergieebene : public QObject {
     Q_OBJECT
 
     std::unique_ptr<SkriptDialogs> dialoge;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
     std::unique_ptr<TempOrdner> klima;
 
     void starten(const char* sprache) {

@@ -58,7 +58,7 @@ class TestErgebnisebenen : public QObject {
     Q_OBJECT
 
     std::unique_ptr<SkriptDialogs> dialoge;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
     std::unique_ptr<TempOrdner> klima;
 
     void starten(const char* sprache) {

@@ -32,7 +32,7 @@ class TestHauptfenster : public QObject {
     Q_OBJECT
 
     std::unique_ptr<SkriptDialogs> dialoge;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
     // A copy of the delivered station folder, so that the language file of a test stays its own.
     std::unique_ptr<TempOrdner> klima;
     // The language the window of the first start chooses; "" closes it without a choice.
@@ -42,7 +42,7 @@ class TestHauptfenster : public QObject {
     // The program built on the copied station folder, not yet started.
     void bauen() {
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = std::make_unique<Desktopprogramm>(dialoge.get(), [this] {
+        programm = std::make_unique<Testprogramm>(dialoge.get(), [this] {
             ++gewaehlt;
             return wahl;
         });

@@ -5,8 +5,8 @@
 // missing station and the climate labels of both planes.
 #include "climate/Bitmap.h"
 #include "climate/ebene/E_Klima.h"
-#include "climate/klimaregionen.h"
 #include "climate/ebene/stationskarten.h"
+#include "climate/klimaregionen.h"
 #include "project/Zahlformat.h"
 #include "project/c_glob.h"
 #include "project/lebenszyklus/projektdatei.h"
@@ -57,7 +57,7 @@ class TestKlimaebene : public QObject {
     Q_OBJECT
 
     std::unique_ptr<SkriptDialogs> dialoge;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
     std::unique_ptr<TempOrdner> klima;
 
     // The program in `sprache` on the climate plane and the climate information plane, with a

@@ -83,7 +83,7 @@ class TestKlimaimport : public QObject {
     std::unique_ptr<TempOrdner> klima;
     TempOrdner quellen;
     std::unique_ptr<SkriptDialogs> dialoge;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
     Skriptnutzer* nutzer = nullptr;
 
     // The program started on the copy of the klima folder, the import window opened from its
@@ -338,7 +338,7 @@ private slots:
         auto starten = [&] {
             programm.reset();
             dialoge = std::make_unique<SkriptDialogs>();
-            programm = std::make_unique<Desktopprogramm>(dialoge.get(), [&gefragt] {
+            programm = std::make_unique<Testprogramm>(dialoge.get(), [&gefragt] {
                 ++gefragt;
                 return std::string("e");
             });

@@ -48,7 +48,7 @@ class TestMassstab : public QObject {
 
     std::unique_ptr<TempOrdner> klima;
     std::unique_ptr<SkriptDialogs> dialoge;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
 
     void starten() {
         dialoge = std::make_unique<SkriptDialogs>();

@@ -3,8 +3,8 @@
 // Exec line, Qt's own dialogs in the language of the run, the save dialog's first folder and
 // extension.
 #include "project/Dialogs.h"
-#include "project/lebenszyklus/FILEIO.h"
 #include "project/c_glob.h"
+#include "project/lebenszyklus/FILEIO.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
 #include "tests/ui/Uitesthilfe.h"
@@ -35,7 +35,7 @@ class TestPlattform : public QObject {
     Q_OBJECT
 
     std::unique_ptr<TempOrdner> klima;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
 
     // Runs `pruefen` on the modal dialog that the next call opens.
     static void im_dialog(std::function<void(QWidget*)> pruefen) {
@@ -85,7 +85,7 @@ private slots:
         programm.reset();
 
         SkriptDialogs zweite;
-        programm = std::make_unique<Desktopprogramm>(&zweite, [] { return std::string("d"); });
+        programm = std::make_unique<Testprogramm>(&zweite, [] { return std::string("d"); });
         programm->klimaordner = klima->pfad().string();
         programm->starten(befehlszeile_aus(exec_argumente(datei)));
         programm->Timer1_Timer();

@@ -34,7 +34,7 @@ class TestReportfenster : public QObject {
     Q_OBJECT
 
     std::unique_ptr<SkriptDialogs> dialoge;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
     std::unique_ptr<TempOrdner> klima;
     TempOrdner ablage;
 

@@ -95,7 +95,7 @@ struct Lauf {
     std::unique_ptr<TempOrdner> klima = klima_kopie();
     SkriptDialogs dialoge;
     Bindungsliste bindungen;
-    std::unique_ptr<Desktopprogramm> programm;
+    std::unique_ptr<Testprogramm> programm;
     std::vector<const QWidget*> widgets;
 
     explicit Lauf(const char* sprache) {

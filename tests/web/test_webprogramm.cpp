@@ -24,9 +24,13 @@ namespace {
 
 struct Lauf {
     Seitendialoge dialoge;
-    Webprogramm w{"d", VELMARIS_SOURCE_DIR "/klima",
+    std::unique_ptr<Projekt> p = leeres_projekt();
+    Webprogramm w{*p,
+                  "d",
+                  VELMARIS_SOURCE_DIR "/klima",
                   [](const std::string&, const std::string& t) { return 6.0 * t.size(); },
-                  [](const std::string&, const std::string&) { return 13.0; }, dialoge};
+                  [](const std::string&, const std::string&) { return 13.0; },
+                  dialoge};
     Lauf() {
         for (const char* n : Webprogramm::DIAGRAMME) {
             w.flaeche_anlegen(n, 330, 140, WHITE);

@@ -10,12 +10,12 @@
 // Without a project the new project is shown. Status 1 for wrong arguments, 2 when a picture or
 // the index cannot be written.
 #include "print/Ausdrucken.h"
+#include "print/qt/QtDrucker.h"
 #include "project/Dialogs.h"
 #include "project/c_glob.h"
 #include "tools/bildbogen/Bildablage.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
-#include "print/qt/QtDrucker.h"
 #include "ui/ZoomFenster.h"
 
 #include <QApplication>
@@ -91,7 +91,9 @@ void Bildbogen::ablegen(QWidget& w, const QString& name, const QString& titel,
 std::vector<Bild> Bildbogen::sprache(const std::string& sprache, const std::string& projekt) {
     std::vector<Bild> bilder;
     Stilledialoge dialoge;
-    Desktopprogramm programm(&dialoge, [] { return std::string(); });
+    // Each language starts on a record of its own.
+    auto datensatz = std::make_unique<Projekt>();
+    Desktopprogramm programm(*datensatz, &dialoge, [] { return std::string(); });
     // The program may write its language file into the station folder: a copy keeps the
     // delivered one as it is.
     QTemporaryDir klima;
