@@ -102,12 +102,11 @@ TEST(Monatsbilanz, WarmMonthHasNoUsableGainsAndNoDemand) {
     p->Troom = 5; // every summer month of the synthetic climate is warmer
     alles_berechnen(*p);
     const Monatswerte& juli = p->Monat[7];
-    EXPECT_FLOAT_EQ(juli.Qt, 0);
-    EXPECT_FLOAT_EQ(juli.Qv, 0);
-    EXPECT_FLOAT_EQ(juli.Nutzgrad, 0);
-    EXPECT_FLOAT_EQ(juli.Qs_genutzt, 0);
-    EXPECT_FLOAT_EQ(juli.Qi_genutzt, 0);
-    EXPECT_FLOAT_EQ(juli.Qh, 0);
+    for (float Monatswerte::*f :
+         {&Monatswerte::Qt, &Monatswerte::Qv, &Monatswerte::Nutzgrad, &Monatswerte::Qs_genutzt,
+          &Monatswerte::Qi_genutzt, &Monatswerte::Qh}) {
+        EXPECT_FLOAT_EQ(juli.*f, 0);
+    }
     EXPECT_GT(juli.Qs_brutto, 0);
     EXPECT_GT(juli.Qi_brutto, 0);
 }
