@@ -36,7 +36,7 @@ std::vector<std::string> version32(std::vector<std::string> werte = NEU) {
 
 // Reads `zeilen` as a project file into `prog`.
 bool lesen(Programm& prog, const std::vector<std::string>& zeilen) {
-    return lesen(prog, zeilen);
+    return datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(zeilen));
 }
 
 } // namespace
