@@ -14,11 +14,18 @@ std::function<Stationsstunde(int, int)> konstant(double Ta) {
     return [Ta](int, int) { return Stationsstunde{Ta, 0, 0}; };
 }
 
+// The new project on the synthetic station, recalculated.
+class Testjahr : public ::testing::Test {
+protected:
+    TempOrdner ordner;
+    std::unique_ptr<Projekt> p = neues_testprojekt(ordner);
+};
+using Nutzungsgrad = Testjahr;
+using Monatsbilanz = Testjahr;
+
 } // namespace
 
-TEST(Nutzungsgrad, LimitAndGeneralForm) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Nutzungsgrad, LimitAndGeneralForm) {
     const double a = static_cast<float>(p->tau / 3600.0 / 16 + 1);
     // Exactly 1: the limit a / (a + 1), no division by zero.
     EXPECT_FLOAT_EQ(nutzungsgrad(*p, 1.0f), static_cast<float>(a / (a + 1)));
@@ -33,9 +40,7 @@ TEST(Nutzungsgrad, LimitAndGeneralForm) {
     EXPECT_NEAR(nutzungsgrad(*p, 0.5f), (1 - std::pow(g, a)) / (1 - std::pow(g, a + 1)), 1e-6);
 }
 
-TEST(Nutzungsgrad, HugeTimeConstantWithLargeGainsStaysFinite) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Nutzungsgrad, HugeTimeConstantWithLargeGainsStaysFinite) {
     // Almost no losses: a time constant of years, and gamma^a overflows a double.
     p->kwn = p->kws = p->kwo = p->kww = p->kd = p->kk = 0.01f;
     p->Waermebruecken = 0;
@@ -46,9 +51,8 @@ TEST(Nutzungsgrad, HugeTimeConstantWithLargeGainsStaysFinite) {
     EXPECT_NEAR(f, 1.0 / 1000, 1e-9);
 }
 
-TEST(Monatsbilanz, JanuaryAtZeroDegreesWorkedByHand) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner, konstant(0));
+TEST_F(Monatsbilanz, JanuaryAtZeroDegreesWorkedByHand) {
+    p = neues_testprojekt(ordner, konstant(0));
     const Monatswerte& jan = p->Monat[1];
     const double D = 20 * 31; // Kd
     // Conductance, W/K: flat ceiling 0.3 x 100 (roof space factor 1), floor 0.3 x 100 x 0.5,
@@ -66,11 +70,9 @@ TEST(Monatsbilanz, JanuaryAtZeroDegreesWorkedByHand) {
     EXPECT_NEAR(p->qtr_Dach, 30 * 20 * 365 * 0.024, 0.05);
 }
 
-TEST(Monatsbilanz, TheLossIsHeldAsAFloatBeforeItDividesTheGains) {
+TEST_F(Monatsbilanz, TheLossIsHeldAsAFloatBeforeItDividesTheGains) {
     // gamma = gains / L with L = Qv + Qt rounded to a float first. In the months where the
     // rounding of L moves gamma, a double L would give another utilisation factor.
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
     int entschieden = 0;
     for (int variante = 0; variante < 3; ++variante) {
         p->l = 50 - 7.3f * variante;
@@ -96,25 +98,20 @@ TEST(Monatsbilanz, TheLossIsHeldAsAFloatBeforeItDividesTheGains) {
     EXPECT_GT(entschieden, 0);
 }
 
-TEST(Monatsbilanz, WarmMonthHasNoUsableGainsAndNoDemand) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Monatsbilanz, WarmMonthHasNoUsableGainsAndNoDemand) {
     p->Troom = 5; // every summer month of the synthetic climate is warmer
     alles_berechnen(*p);
     const Monatswerte& juli = p->Monat[7];
-    EXPECT_FLOAT_EQ(juli.Qt, 0);
-    EXPECT_FLOAT_EQ(juli.Qv, 0);
-    EXPECT_FLOAT_EQ(juli.Nutzgrad, 0);
-    EXPECT_FLOAT_EQ(juli.Qs_genutzt, 0);
-    EXPECT_FLOAT_EQ(juli.Qi_genutzt, 0);
-    EXPECT_FLOAT_EQ(juli.Qh, 0);
+    for (float Monatswerte::*f :
+         {&Monatswerte::Qt, &Monatswerte::Qv, &Monatswerte::Nutzgrad, &Monatswerte::Qs_genutzt,
+          &Monatswerte::Qi_genutzt, &Monatswerte::Qh}) {
+        EXPECT_FLOAT_EQ(juli.*f, 0);
+    }
     EXPECT_GT(juli.Qs_brutto, 0);
     EXPECT_GT(juli.Qi_brutto, 0);
 }
 
-TEST(Monatsbilanz, YearSumsCloseOverMonthsPartsAndFacades) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Monatsbilanz, YearSumsCloseOverMonthsPartsAndFacades) {
     p->Dachgeschoss = true;
     p->hd = 3;
     p->ft = 2;
@@ -142,9 +139,7 @@ TEST(Monatsbilanz, YearSumsCloseOverMonthsPartsAndFacades) {
     EXPECT_NEAR(p->qverl_s, p->qinfs + p->qtrs, 1e-4);
 }
 
-TEST(Monatsbilanz, HeatedAtticIgnoresTheRoofSpaceKind) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Monatsbilanz, HeatedAtticIgnoresTheRoofSpaceKind) {
     p->Dachgeschoss = true;
     alles_berechnen(*p);
     const float qt = p->qtr;
@@ -165,9 +160,7 @@ TEST(Monatsbilanz, HeatedAtticIgnoresTheRoofSpaceKind) {
     EXPECT_FLOAT_EQ(p->qtr_Dach, 0);
 }
 
-TEST(Monatsbilanz, SouthWindowsGainMoreThanNorthWindows) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Monatsbilanz, SouthWindowsGainMoreThanNorthWindows) {
     p->fn = p->fs = p->fo = p->fw = 20;
     alles_berechnen(*p);
     EXPECT_GT(p->Fenstergewinn_S, p->Fenstergewinn_O);

@@ -24,11 +24,18 @@ double julimittel_frei(const Projekt& p) {
     return summe / (31 * 24);
 }
 
+// The new project on the synthetic station, recalculated.
+class Testjahr : public ::testing::Test {
+protected:
+    TempOrdner ordner;
+    std::unique_ptr<Projekt> p = neues_testprojekt(ordner);
+};
+using Stundensimulation = Testjahr;
+
 } // namespace
 
-TEST(Stundensimulation, ConstantColdReachesTheEquilibriumAndHeatsEveryHour) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner, konstant(0));
+TEST_F(Stundensimulation, ConstantColdReachesTheEquilibriumAndHeatsEveryHour) {
+    p = neues_testprojekt(ordner, konstant(0));
     // At 0 °C without sun only the internal gains drive the free-running temperature:
     // T = tau · Gi / Cwirk = Gi / (Ht + Hv) with the conductances of the time constant.
     const double Gi = 160 * 25 * 1000 / 8760.0;
@@ -47,9 +54,7 @@ TEST(Stundensimulation, ConstantColdReachesTheEquilibriumAndHeatsEveryHour) {
     EXPECT_FLOAT_EQ(p->Kuehllast_max, 0);
 }
 
-TEST(Stundensimulation, BandsAddUpToTheHoursOfEachMonth) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Stundensimulation, BandsAddUpToTheHoursOfEachMonth) {
     p->fs = 80;
     p->Tueber = 24;
     alles_berechnen(*p);
@@ -62,9 +67,7 @@ TEST(Stundensimulation, BandsAddUpToTheHoursOfEachMonth) {
     EXPECT_GT(heiss, 0) << "the test building should overheat in summer";
 }
 
-TEST(Stundensimulation, AllHoursComfortableWhenTheBandIsWide) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Stundensimulation, AllHoursComfortableWhenTheBandIsWide) {
     p->Troom = -50;
     p->Tueber = 100;
     alles_berechnen(*p);
@@ -75,9 +78,7 @@ TEST(Stundensimulation, AllHoursComfortableWhenTheBandIsWide) {
     }
 }
 
-TEST(Stundensimulation, CoolingCausesAddUpToTheCoolingDemand) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Stundensimulation, CoolingCausesAddUpToTheCoolingDemand) {
     p->fs = 80;
     p->fo = p->fw = 40;
     p->Tueber = 23;
@@ -102,9 +103,7 @@ TEST(Stundensimulation, CoolingCausesAddUpToTheCoolingDemand) {
     EXPECT_GT(p->Monat[7].Kuehlgradstunden, 0);
 }
 
-TEST(Stundensimulation, VentilatedRoofOnlyMattersWithAbsorption) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Stundensimulation, VentilatedRoofOnlyMattersWithAbsorption) {
     p->Dachgeschoss = true;
     p->hd = 3;
     p->cbk_hDach = 1;
@@ -123,9 +122,7 @@ TEST(Stundensimulation, VentilatedRoofOnlyMattersWithAbsorption) {
     EXPECT_DOUBLE_EQ(julimittel_frei(*p), a0_ohne);
 }
 
-TEST(Stundensimulation, WestWallLosesWithSunWhereTheEastWallGains) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner);
+TEST_F(Stundensimulation, WestWallLosesWithSunWhereTheEastWallGains) {
     p->cbk_hDach = 0; // keep the roof out
     p->fn = p->fs = p->fo = p->fw = 0;
     auto nur = [&](char wand, float absorption) {
@@ -139,8 +136,7 @@ TEST(Stundensimulation, WestWallLosesWithSunWhereTheEastWallGains) {
     EXPECT_GT(nur('o', 1), nur('o', 0));
 }
 
-TEST(Stundensimulation, JanuaryStartsFromTheWarmUpDecember) {
-    TempOrdner ordner;
+TEST_F(Stundensimulation, JanuaryStartsFromTheWarmUpDecember) {
     // Two stations that differ only in December: the first January hour differs too.
     auto mild_dezember = [](int tag, int) { return Stationsstunde{tag > 334 ? 10.0 : 0.0, 0, 0}; };
     auto kalt = neues_testprojekt(ordner, konstant(0));
@@ -150,9 +146,8 @@ TEST(Stundensimulation, JanuaryStartsFromTheWarmUpDecember) {
     EXPECT_NEAR(mild->T_frei(3, 1, 1), kalt->T_frei(3, 1, 1), 1e-4);
 }
 
-TEST(Stundensimulation, OverheatingLimitBelowSetTemperatureHeatsAndCoolsInOneHour) {
-    TempOrdner ordner;
-    auto p = neues_testprojekt(ordner, konstant(0));
+TEST_F(Stundensimulation, OverheatingLimitBelowSetTemperatureHeatsAndCoolsInOneHour) {
+    p = neues_testprojekt(ordner, konstant(0));
     p->Troom = 20;
     p->Tueber = 18;
     alles_berechnen(*p);
@@ -161,7 +156,7 @@ TEST(Stundensimulation, OverheatingLimitBelowSetTemperatureHeatsAndCoolsInOneHou
     EXPECT_FLOAT_EQ(p->T_regel(1, 10, 5), 18);
 }
 
-TEST(Stundensimulation, MatchesThePlainEvaluationBitForBit) {
+TEST_F(Stundensimulation, MatchesThePlainEvaluationBitForBit) {
     struct Fall {
         bool Dachgeschoss;
         int16_t Dachfirst, orient, cbk_hDach;
@@ -173,8 +168,7 @@ TEST(Stundensimulation, MatchesThePlainEvaluationBitForBit) {
         {true, 2, -45, 0, 23},
         {true, 2, 15, 1, 22},
     };
-    TempOrdner ordner;
-    auto schnell = neues_testprojekt(ordner);
+    auto& schnell = p;
     for (const Fall& f : faelle) {
         schnell->Dachgeschoss = f.Dachgeschoss;
         schnell->Dachfirst = f.Dachfirst;

@@ -15,6 +15,8 @@
 
 namespace {
 
+using Kind = RecordingSurface::Primitive::Kind;
+
 struct Alle {
     Uebersicht u;
     Heizen h;
@@ -109,7 +111,7 @@ TEST(Auffrischtabelle, TheDriverRunsItAfterAWholeRunAfterTheObserversBeforeIt) {
         alles_berechnen(*p);
         EXPECT_EQ(vorher.geometrie, 1);
         EXPECT_EQ(vorher.alles, 1);
-        EXPECT_EQ(a.u.Monatsbilanz.of_kind(RecordingSurface::Primitive::Kind::Cls).size(), 1u);
+        EXPECT_EQ(a.u.Monatsbilanz.of_kind(Kind::Cls).size(), 1u);
 
         // Under the load guard the driver stops after the geometry: no chart is drawn.
         p->FormLoadGuard = -1;
@@ -117,20 +119,14 @@ TEST(Auffrischtabelle, TheDriverRunsItAfterAWholeRunAfterTheObserversBeforeIt) {
         p->FormLoadGuard = 0;
         EXPECT_EQ(vorher.geometrie, 2);
         EXPECT_EQ(vorher.alles, 1);
-        EXPECT_EQ(a.u.Monatsbilanz.of_kind(RecordingSurface::Primitive::Kind::Cls).size(), 1u);
+        EXPECT_EQ(a.u.Monatsbilanz.of_kind(Kind::Cls).size(), 1u);
     }
     // The table leaves with its registration; the one before it stays.
     alles_berechnen(*p);
     EXPECT_EQ(vorher.alles, 2);
-    EXPECT_EQ(a.u.Monatsbilanz.of_kind(RecordingSurface::Primitive::Kind::Cls).size(), 1u);
+    EXPECT_EQ(a.u.Monatsbilanz.of_kind(Kind::Cls).size(), 1u);
     EXPECT_EQ(p->beobachter.alle(), std::vector<Rechenbeobachter*>{&vorher});
 }
-
-} // namespace
-
-namespace {
-
-using Kind = RecordingSurface::Primitive::Kind;
 
 TEST(Neuzeichnen, ARepaintRedrawsFromTheRecordWithTheSurfacesItsRoutineDraws) {
     TempOrdner o;

@@ -23,9 +23,18 @@ using Kind = RecordingSurface::Primitive::Kind;
 
 const ChartTheme T;
 
-TEST(AVDiagramm, TheBarStandsAtTheCompactnessOfTheBuilding) {
+// The recalculated German project of the chart tests.
+class Diagrammfall : public ::testing::Test {
+protected:
     TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+    std::unique_ptr<Projekt> p = diagrammprojekt(o, "d");
+};
+using AVDiagramm = Diagrammfall;
+using Lageplan = Diagrammfall;
+using Monatsverbrauch = Diagrammfall;
+using Energietraeger = Diagrammfall;
+
+TEST_F(AVDiagramm, TheBarStandsAtTheCompactnessOfTheBuilding) {
     const double c = std::pow(static_cast<double>(p->v_geb), 1.0 / 3);
     const int y = static_cast<int>(std::nearbyint(123 - (p->AV * c - 2.88) / 0.06));
     ASSERT_GT(y, 7);
@@ -39,9 +48,7 @@ TEST(AVDiagramm, TheBarStandsAtTheCompactnessOfTheBuilding) {
     EXPECT_EQ(s.pixel(47, 6), (Rgb{200, 200, 200})); // nothing cleared beyond the bar
 }
 
-TEST(AVDiagramm, AnElongatedBuildingStopsAtSevenWithoutWhitePart) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(AVDiagramm, AnElongatedBuildingStopsAtSevenWithoutWhitePart) {
     p->l = 50;
     p->b = 2;
     p->h = 2;
@@ -53,9 +60,7 @@ TEST(AVDiagramm, AnElongatedBuildingStopsAtSevenWithoutWhitePart) {
     EXPECT_EQ(s.of_kind(Kind::FilledBox)[0].y2, 7);
 }
 
-TEST(Lageplan, TheSouthArrowTurnsWithTheOrientation) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(Lageplan, TheSouthArrowTurnsWithTheOrientation) {
     RecordingSurface s(80, 80);
     Lageplan_zeichnen(*p, s, T);
     // orient 0: the shaft runs straight down through the centre, the barbs point up from its
@@ -77,9 +82,7 @@ TEST(Lageplan, TheSouthArrowTurnsWithTheOrientation) {
     EXPECT_NEAR(schaft.y1, 40 + std::cos(45 * 0.01745) * 14, 1e-9);
 }
 
-TEST(Monatsverbrauch, ColumnsOfEndAndPrimaryEnergyOnTheirStep) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(Monatsverbrauch, ColumnsOfEndAndPrimaryEnergyOnTheirStep) {
     RecordingSurface s(330, 115);
     Monatsverbrauch_zeichnen(*p, s, einstellung("d"));
     const Energiemonate w = energie_monatswerte(*p);
@@ -114,9 +117,7 @@ TEST(Monatsverbrauch, ColumnsOfEndAndPrimaryEnergyOnTheirStep) {
     EXPECT_EQ(s.prints(" 30")[0].font, "MS Sans Serif");
 }
 
-TEST(Monatsverbrauch, LargeNumbersGoToTheSmallFontAndBackForTheColumns) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(Monatsverbrauch, LargeNumbersGoToTheSmallFontAndBackForTheColumns) {
     p->q_HE_Energietraeger = 40000;
     p->q_PE_Energietraeger = 40000;
     RecordingSurface s(330, 115);
@@ -134,9 +135,7 @@ TEST(Monatsverbrauch, LargeNumbersGoToTheSmallFontAndBackForTheColumns) {
     EXPECT_EQ(s.FontSize, 8.25);
 }
 
-TEST(Energietraeger, OilTankFillsByTheEndEnergyAndTheAuxiliaryFlash) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(Energietraeger, OilTankFillsByTheEndEnergyAndTheAuxiliaryFlash) {
     ASSERT_EQ(p->Energie.Traegername, "Heizöl");
     RecordingSurface bild2(80, 50), bild3(80, 50);
     Energietraeger_zeichnen(*p, bild2, bild3, einstellung("d"));
@@ -159,9 +158,7 @@ TEST(Energietraeger, OilTankFillsByTheEndEnergyAndTheAuxiliaryFlash) {
     EXPECT_EQ(e3.prints("electricity:").size(), 1u);
 }
 
-TEST(Energietraeger, TheOilLevelIsCappedAndElectricityLeavesTheSecondPictureBlank) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(Energietraeger, TheOilLevelIsCappedAndElectricityLeavesTheSecondPictureBlank) {
     p->q_HE_Energietraeger = 300;
     RecordingSurface a(80, 50), a3(80, 50);
     Energietraeger_zeichnen(*p, a, a3, einstellung("d"));
@@ -180,9 +177,7 @@ TEST(Energietraeger, TheOilLevelIsCappedAndElectricityLeavesTheSecondPictureBlan
     EXPECT_EQ(boxen(s2, Rgb{255, 255, 96}).size(), 0u);
 }
 
-TEST(Energietraeger, ACarrierNameWiderThanThePictureBeginsAtItsLeftEdge) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(Energietraeger, ACarrierNameWiderThanThePictureBeginsAtItsLeftEdge) {
     p->Energie.Traegername = "Nah-/Fernwärme";
     p->Energie.Traegername_e = "district heat";
     for (const auto& [sprache, titel] :
@@ -195,9 +190,7 @@ TEST(Energietraeger, ACarrierNameWiderThanThePictureBeginsAtItsLeftEdge) {
     }
 }
 
-TEST(Energietraeger, WoodPileHasRowsByTheSizeValue) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(Energietraeger, WoodPileHasRowsByTheSizeValue) {
     p->Energie.Traegername = "Holz";
     p->q_HE_Energietraeger = 200; // v = 100: n = Int(sqrt(56.25) - 0.5) = 7 rows
     RecordingSurface s2(80, 50), s3(80, 50);
@@ -206,9 +199,7 @@ TEST(Energietraeger, WoodPileHasRowsByTheSizeValue) {
     EXPECT_EQ(s2.prints(std::to_string(std::lround(p->f_nutz * 200 / 4.6)) + " kg/a").size(), 1u);
 }
 
-TEST(Energietraeger, AnEndEnergyThatIsNotANumberDrawsNoPictogramAndNoFault) {
-    TempOrdner o;
-    auto p = diagrammprojekt(o, "d");
+TEST_F(Energietraeger, AnEndEnergyThatIsNotANumberDrawsNoPictogramAndNoFault) {
     p->q_HE_Energietraeger = std::nanf("");
     for (const char* traeger : {"Holz", "Strom", "Erdgas"}) {
         p->Energie.Traegername = traeger;

@@ -9,10 +9,12 @@
 
 #include <gtest/gtest.h>
 
+namespace fs = std::filesystem;
+
 namespace {
 
 // The window after opening `pfad` and choosing the columns.
-Klimaimport fenster(const std::filesystem::path& pfad) {
+Klimaimport fenster(const fs::path& pfad) {
     Klimaimport f;
     std::string Datei;
     EXPECT_EQ(quelle_oeffnen(f, pfad.string(), Datei), Quelltext::gelesen);
@@ -29,30 +31,43 @@ Klimaimport fenster(const std::filesystem::path& pfad) {
     return f;
 }
 
+// The windows import into a temporary folder; `nutzer` answers the questions.
+class Import : public ::testing::Test {
+protected:
+    TempOrdner ordner;
+    Skriptnutzer nutzer;
+
+    Importergebnis importieren(const Klimaimport& f, const char* sprache, Skriptnutzer& n) {
+        return klimadaten_importieren(f, ordner.pfad().string(), sprache, n);
+    }
+    Importergebnis importieren(const Klimaimport& f, const char* sprache = "d") {
+        return importieren(f, sprache, nutzer);
+    }
+    // The column window over a source of `stunden` rows.
+    Klimaimport quelle(int stunden, const char* name = "q.txt") {
+        return fenster(ordner.schreiben(name, stundenquelle(stunden)));
+    }
+};
+
 } // namespace
 
-TEST(Import, TooFewRowsAreRefusedInBothLanguages) {
-    TempOrdner ordner;
-    const Klimaimport f = fenster(ordner.schreiben("kurz.txt", stundenquelle(8759)));
-    Skriptnutzer nutzer;
-    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer).ausgang,
-              Importausgang::fehler);
+TEST_F(Import, TooFewRowsAreRefusedInBothLanguages) {
+    const Klimaimport f = quelle(8759, "kurz.txt");
+    EXPECT_EQ(importieren(f).ausgang, Importausgang::fehler);
     ASSERT_EQ(nutzer.meldungen.size(), 1u);
     EXPECT_EQ(nutzer.meldungen[0].titel, "Fehler");
     EXPECT_EQ(nutzer.meldungen[0].text,
               "Fehler! - Zu wenig Daten. Benötigt werden 8760 Stundenwerte!");
     Skriptnutzer user;
-    klimadaten_importieren(f, ordner.pfad().string(), "e", user);
+    importieren(f, "e", user);
     ASSERT_EQ(user.meldungen.size(), 1u);
     EXPECT_EQ(user.meldungen[0].text, "Error! - Not enough data. 8760 hourly data is needed!");
-    EXPECT_FALSE(std::filesystem::exists(ordner.pfad() / "neu.met"));
+    EXPECT_FALSE(fs::exists(ordner.pfad() / "neu.met"));
 }
 
-TEST(Import, MoreRowsThanAYearUseTheFirst8760) {
-    TempOrdner ordner;
-    const Klimaimport f = fenster(ordner.schreiben("lang.txt", stundenquelle(8761)));
-    Skriptnutzer nutzer;
-    const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+TEST_F(Import, MoreRowsThanAYearUseTheFirst8760) {
+    const Klimaimport f = quelle(8761, "lang.txt");
+    const Importergebnis e = importieren(f);
     ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
     ASSERT_EQ(nutzer.meldungen.size(), 1u);
     EXPECT_EQ(nutzer.meldungen[0].text,
@@ -70,36 +85,31 @@ TEST(Import, MoreRowsThanAYearUseTheFirst8760) {
     EXPECT_EQ(z[8765], "  365 19.2  200 40.5");
 }
 
-TEST(Import, TotalColumnBeatsDirectColumn) {
-    TempOrdner ordner;
-    Klimaimport f = fenster(ordner.schreiben("q.txt", stundenquelle(8760)));
+TEST_F(Import, TotalColumnBeatsDirectColumn) {
+    Klimaimport f = quelle(8760);
     f.Spaltenbelegung[4] = SPALTE_DIREKT;
-    Skriptnutzer nutzer;
-    const Importergebnis mit_gesamt =
-        klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    const Importergebnis mit_gesamt = importieren(f);
     ASSERT_EQ(mit_gesamt.ausgang, Importausgang::geschrieben);
     EXPECT_EQ(crlf_zeilen(datei_inhalt(mit_gesamt.pfad))[8], "    1 -8.2  200 40.5");
 
     // Without the total, direct + diffuse: 20 + 40.5 rounds to 60 (halves to even).
     f.Spaltenbelegung[3] = SPALTE_UNBENUTZT;
     nutzer.name = "direkt";
-    const Importergebnis ohne = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    const Importergebnis ohne = importieren(f);
     ASSERT_EQ(ohne.ausgang, Importausgang::geschrieben);
     EXPECT_EQ(crlf_zeilen(datei_inhalt(ohne.pfad))[8], "    1 -8.2   60 40.5");
 }
 
-TEST(Import, MissingColumnsAreNamedInTheirOrder) {
-    TempOrdner ordner;
-    Klimaimport f = fenster(ordner.schreiben("q.txt", stundenquelle(8760)));
+TEST_F(Import, MissingColumnsAreNamedInTheirOrder) {
+    Klimaimport f = quelle(8760);
     f.Spaltenbelegung.fill(SPALTE_UNBENUTZT);
     f.Spaltenbelegung[5] = SPALTE_DIFFUS;
-    Skriptnutzer nutzer;
-    klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    importieren(f);
     f.Spaltenbelegung[4] = SPALTE_DIREKT;
-    klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer);
+    importieren(f, "e");
     f.Spaltenbelegung[2] = SPALTE_TEMPERATUR;
     f.Spaltenbelegung[5] = SPALTE_UNBENUTZT;
-    klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer);
+    importieren(f, "e");
     ASSERT_EQ(nutzer.meldungen.size(), 3u);
     EXPECT_EQ(nutzer.meldungen[0].text,
               "Benötigt werden entweder Daten zur Gestamt- oder zur Direktstrahlung");
@@ -108,8 +118,7 @@ TEST(Import, MissingColumnsAreNamedInTheirOrder) {
     EXPECT_EQ(nutzer.meldungen[2].titel, "Error");
 }
 
-TEST(Import, BadValueNamesTheFileLine) {
-    TempOrdner ordner;
+TEST_F(Import, BadValueNamesTheFileLine) {
     std::string text = stundenquelle(8760);
     // Data row 5 (file line 7) gets a text in the total column; row 9 one as well.
     const std::vector<std::string> z = crlf_zeilen(text);
@@ -118,22 +127,18 @@ TEST(Import, BadValueNamesTheFileLine) {
         text += (i == 6 || i == 10 ? "4\t1.0\tn/a\t0\t0" : z[i]) + "\r\n";
     }
     const Klimaimport f = fenster(ordner.schreiben("q.txt", text));
-    Skriptnutzer nutzer;
-    klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    importieren(f);
     Skriptnutzer user;
-    klimadaten_importieren(f, ordner.pfad().string(), "e", user);
+    importieren(f, "e", user);
     ASSERT_EQ(nutzer.meldungen.size(), 1u);
     EXPECT_EQ(nutzer.meldungen[0].text, "Fehler in Zeile 7\r\nKlimadatenimport wurde abgebrochen!");
     EXPECT_EQ(user.meldungen[0].text, "Error in line 7\r\nImport has been aborted!");
 }
 
-TEST(Import, NameQuestionAndOverwrite) {
-    TempOrdner ordner;
-    const Klimaimport f = fenster(ordner.schreiben("Messung.2019.txt", stundenquelle(8760)));
-    Skriptnutzer nutzer;
+TEST_F(Import, NameQuestionAndOverwrite) {
+    const Klimaimport f = quelle(8760, "Messung.2019.txt");
     nutzer.name = "";
-    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer).ausgang,
-              Importausgang::abgebrochen);
+    EXPECT_EQ(importieren(f).ausgang, Importausgang::abgebrochen);
     EXPECT_TRUE(nutzer.meldungen.empty()) << "an empty name ends silently";
     EXPECT_EQ(nutzer.eingabe_vorgabe, "Messung.2019");
     EXPECT_EQ(nutzer.eingabe_titel, "Klimadatensatz speichern unter ...");
@@ -141,34 +146,31 @@ TEST(Import, NameQuestionAndOverwrite) {
               "Bitte geben Sie einen (beliebigen) Dateinamen ein, unter dem der neue "
               "Klimadatensatz 'Teststadt (Testland)' gespeichert werden soll:");
 
-    const std::filesystem::path vorhanden = ordner.schreiben("alt.met", "alt");
+    const fs::path vorhanden = ordner.schreiben("alt.met", "alt");
     nutzer.name = "alt";
     nutzer.ueberschreiben = false;
-    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer).ausgang,
-              Importausgang::abgebrochen);
+    EXPECT_EQ(importieren(f, "e").ausgang, Importausgang::abgebrochen);
     ASSERT_EQ(nutzer.fragen.size(), 1u);
     EXPECT_EQ(nutzer.fragen[0], "This filename already exists. Should the data set, saved under "
                                 "this filename, be overwritten?");
     EXPECT_EQ(datei_inhalt(vorhanden), "alt");
 
     nutzer.ueberschreiben = true;
-    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "e", nutzer).ausgang,
-              Importausgang::geschrieben);
+    EXPECT_EQ(importieren(f, "e").ausgang, Importausgang::geschrieben);
     EXPECT_EQ(crlf_zeilen(datei_inhalt(vorhanden)).size(), 8766u);
     EXPECT_EQ(nutzer.meldungen.back().text,
               "Import finished. Please re-start Velmaris to use the new imported data.");
 }
 
-TEST(Import, DefaultName) {
+TEST_F(Import, DefaultName) {
     EXPECT_EQ(standardname("C:\\Daten\\Klima\\bern.dat"), "bern");
     EXPECT_EQ(standardname("/home/a/trier.2019.csv"), "trier.2019");
     EXPECT_EQ(standardname("ohne_endung"), "ohne_endung");
     EXPECT_EQ(standardname("D:x.y.z"), "x.y");
 }
 
-TEST(Import, AllInputsMustBeGiven) {
-    TempOrdner ordner;
-    Klimaimport f = fenster(ordner.schreiben("q.txt", stundenquelle(10)));
+TEST_F(Import, AllInputsMustBeGiven) {
+    Klimaimport f = quelle(10);
     EXPECT_TRUE(AlleEingabenTesten(f));
     Klimaimport ohne_land = f;
     ohne_land.Land.clear();
@@ -194,8 +196,7 @@ TEST(Import, AllInputsMustBeGiven) {
                                           Importeingabe::Zone}));
 }
 
-TEST(Import, BlankSeparatedRightAlignedSource) {
-    TempOrdner ordner;
+TEST_F(Import, BlankSeparatedRightAlignedSource) {
     const std::string text = spaltentext(1, 8760, [](int i) {
         char zeile[64];
         std::snprintf(zeile, sizeof zeile, "%6d%7.1f%6d%7.1f", i, -0.4, i % 5 * 100, 12.0);
@@ -208,21 +209,19 @@ TEST(Import, BlankSeparatedRightAlignedSource) {
     f.Spaltenbelegung[2] = SPALTE_TEMPERATUR;
     f.Spaltenbelegung[3] = SPALTE_GESAMT;
     f.Spaltenbelegung[4] = SPALTE_DIFFUS;
-    Skriptnutzer nutzer;
-    const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    const Importergebnis e = importieren(f);
     ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
     const std::vector<std::string> z = crlf_zeilen(datei_inhalt(e.pfad));
     EXPECT_EQ(z[7], "    1 -0.4  100   12") << "-0.4 keeps its zero, five wide";
 }
 
-TEST(Import, MeteonormSourceIsFilledInOnOpening) {
-    TempOrdner ordner;
+TEST_F(Import, MeteonormSourceIsFilledInOnOpening) {
     std::string text =
         "\"Davos\"\r\n46.8,-9.83,1594,-1\r\nMeteonorm\r\nm\tdy\th\tTa\tG_Gh\tG_Dh\r\n";
     for (int i = 0; i < 8760; ++i) {
         text += "1\t1\t1\t-3.5\t0\t0\r\n";
     }
-    const std::filesystem::path pfad = ordner.schreiben("davos.dat", text);
+    const fs::path pfad = ordner.schreiben("davos.dat", text);
     Klimaimport f;
     std::string Datei;
     ASSERT_EQ(quelle_oeffnen(f, pfad.string(), Datei), Quelltext::gelesen);
@@ -231,8 +230,7 @@ TEST(Import, MeteonormSourceIsFilledInOnOpening) {
     EXPECT_NE(f.Dateiansicht.find("\"Davos\"\r\n46.8"), std::string::npos);
     EXPECT_EQ(f.Dateiansicht.substr(f.Dateiansicht.size() - 3), "...") << "250 lines shown";
     f.Land = "Schweiz";
-    Skriptnutzer nutzer;
-    const Importergebnis e = klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer);
+    const Importergebnis e = importieren(f);
     ASSERT_EQ(e.ausgang, Importausgang::geschrieben);
     EXPECT_EQ(nutzer.eingabe_vorgabe, "davos");
     const std::vector<std::string> z = crlf_zeilen(datei_inhalt(e.pfad));
@@ -242,31 +240,27 @@ TEST(Import, MeteonormSourceIsFilledInOnOpening) {
     EXPECT_EQ(z[6], "    1 -3.5    0    0");
 }
 
-TEST(Import, UnreadableSourceIsAMessage) {
+TEST_F(Import, UnreadableSourceIsAMessage) {
     Klimaimport f;
     std::string Datei = "projekt.vel";
     EXPECT_EQ(quelle_oeffnen(f, "/nicht/vorhanden.txt", Datei), Quelltext::nicht_lesbar);
     EXPECT_EQ(Datei, "projekt.vel");
     f.DateinameBox = "/nicht/vorhanden.txt";
-    Skriptnutzer nutzer;
     EXPECT_EQ(klimadaten_importieren(f, "/tmp", "e", nutzer).ausgang, Importausgang::fehler);
     ASSERT_EQ(nutzer.meldungen.size(), 1u);
     EXPECT_EQ(nutzer.meldungen[0].text, "The file \"/nicht/vorhanden.txt\" cannot be read.");
 }
 
-TEST(Import, OversizedSourceAndHeadCountAreRefusedWithTheirReason) {
-    TempOrdner ordner;
+TEST_F(Import, OversizedSourceAndHeadCountAreRefusedWithTheirReason) {
     // One byte more than the import reads, all of it empty lines.
     const auto gross = ordner.schreiben("gross.txt", std::string(IMPORT_HOECHSTGROESSE + 1, '\n'));
     Klimaimport f;
     std::string Datei = "projekt.vel";
     EXPECT_EQ(quelle_oeffnen(f, gross.string(), Datei), Quelltext::zu_gross);
     EXPECT_EQ(Datei, "projekt.vel");
-    f = fenster(ordner.schreiben("quelle.txt", stundenquelle(8760)));
+    f = quelle(8760, "quelle.txt");
     f.DateinameBox = gross.string();
-    Skriptnutzer nutzer;
-    EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), "d", nutzer).ausgang,
-              Importausgang::fehler);
+    EXPECT_EQ(importieren(f).ausgang, Importausgang::fehler);
     ASSERT_EQ(nutzer.meldungen.size(), 1u);
     EXPECT_EQ(nutzer.meldungen[0].text,
               "Die Datei \"" + gross.string() +
@@ -286,13 +280,12 @@ TEST(Import, OversizedSourceAndHeadCountAreRefusedWithTheirReason) {
     f.Kopfzeilen = "99999999999";
     for (const char* sprache : {"d", "e"}) {
         Skriptnutzer n;
-        EXPECT_EQ(klimadaten_importieren(f, ordner.pfad().string(), sprache, n).ausgang,
-                  Importausgang::fehler);
+        EXPECT_EQ(importieren(f, sprache, n).ausgang, Importausgang::fehler);
         ASSERT_EQ(n.meldungen.size(), 1u);
         EXPECT_EQ(n.meldungen[0].text,
                   std::string(sprache) == "d"
                       ? "Die Anzahl der Kopfzeilen ist zu groß (höchstens 32767)."
                       : "The number of head lines is too large (32767 at most).");
     }
-    EXPECT_FALSE(std::filesystem::exists(ordner.pfad() / "neu.met"));
+    EXPECT_FALSE(fs::exists(ordner.pfad() / "neu.met"));
 }

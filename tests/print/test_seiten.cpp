@@ -36,6 +36,14 @@ bool gedruckt(const RecordingPrinter& d, const std::string& text, int seite) {
     return false;
 }
 
+// The printer `d` after printing `seite` of the project with the comma as the decimal mark.
+template <typename D = RecordingPrinter>
+D seite_drucken(void (*seite)(Druckseite&), const Projekt& p, const Eingabeflaechen& e, D d = D()) {
+    Druckseite s{d, p, e, ',', {}};
+    seite(s);
+    return d;
+}
+
 } // namespace
 
 TEST(Seitenzahl, TheDataSheetCountsTwoPagesAndAllTogetherEight) {
@@ -182,9 +190,7 @@ TEST(Datenblatt, ValuesStandAtX120WithTheDecimalMarkAndTheListTexts) {
     TempOrdner ordner;
     Druckprojekt dp(ordner, "d");
     Projekt& p = *dp.p;
-    RecordingPrinter d;
-    Druckseite s{d, p, *dp.e, ',', {}};
-    Seite_Datenblatt1(s);
+    RecordingPrinter d = seite_drucken(Seite_Datenblatt1, p, *dp.e);
 
     const auto laenge = d.prints("Länge der Nord- und Südfassade:").at(0);
     EXPECT_DOUBLE_EQ(laenge.x1, 30);
@@ -208,9 +214,7 @@ TEST(Datenblatt, ValuesStandAtX120WithTheDecimalMarkAndTheListTexts) {
     // Without a heated attic there is no roof height.
     EXPECT_TRUE(d.prints("Dachhöhe:").empty());
     p.Dachgeschoss = true;
-    RecordingPrinter mit_dach;
-    Druckseite s2{mit_dach, p, *dp.e, ',', {}};
-    Seite_Datenblatt1(s2);
+    RecordingPrinter mit_dach = seite_drucken(Seite_Datenblatt1, p, *dp.e);
     EXPECT_EQ(mit_dach.prints("Dachhöhe:").size(), 1u);
     EXPECT_EQ(mit_dach.prints("Dach:").size(), 1u);
     EXPECT_EQ(mit_dach.prints("Außenluft").size(), 1u);
@@ -222,9 +226,7 @@ TEST(Datenblatt, TheWindowTableHasAColumnPerFacadeAndTheHeatSupplyIsWrapped) {
     Projekt& p = *dp.p;
     p.fs = 40;
     p.fn = 10;
-    RecordingPrinter d;
-    Druckseite s{d, p, *dp.e, ',', {}};
-    Seite_Datenblatt2(s);
+    RecordingPrinter d = seite_drucken(Seite_Datenblatt2, p, *dp.e);
     // North, south, east, west, each ending on its anchor.
     const auto reihe = d.prints("Anteil der Fassade in %").at(0);
     std::vector<std::pair<std::string, double>> zellen;
@@ -282,9 +284,7 @@ TEST(Datenblatt, TheKindOfWindowKeepsItsUnitWholeInEveryLanguage) {
             SCOPED_TRACE(art);
             dp.e->fenster.fassaden[Nord].typ_feld = static_cast<int16_t>(typ);
             for (const double faktor : {0.7, 0.85, 1.0}) {
-                SchmaleSchrift d(faktor);
-                Druckseite s{d, *dp.p, *dp.e, ',', {}};
-                Seite_Datenblatt2(s);
+                auto d = seite_drucken(Seite_Datenblatt2, *dp.p, *dp.e, SchmaleSchrift(faktor));
                 // The north column: size 8 texts ending on the anchor at x 100.
                 std::vector<std::string> zeilen;
                 for (const auto& e : d.von_art(Art::Print)) {
@@ -318,9 +318,7 @@ TEST(Kuehlbilanz, TheTwoCoolingDemandHeadingsStandApart) {
     TempOrdner ordner;
     for (const char* sprache : {"d", "e"}) {
         Druckprojekt dp(ordner, sprache);
-        RecordingPrinter d;
-        Druckseite s{d, *dp.p, *dp.e, ',', {}};
-        Seite_Kuehlbilanz(s);
+        RecordingPrinter d = seite_drucken(Seite_Kuehlbilanz, *dp.p, *dp.e);
         auto kopf = d.prints(sprache == std::string("d") ? "Kühlbedarf" : "Cooling demand");
         ASSERT_FALSE(kopf.empty());
         // The table's head row; the diagram's legend repeats the word further down.
@@ -347,9 +345,7 @@ TEST(Datenblatt, TheRidgeDirectionEndsClearOfTheSketch) {
             for (const double faktor : {0.7, 0.85, 1.0}) {
                 SCOPED_TRACE(std::string(sprache) + " ridge " + std::to_string(first) + " width " +
                              std::to_string(faktor));
-                SchmaleSchrift d(faktor);
-                Druckseite s{d, p, *dp.e, ',', {}};
-                Seite_Datenblatt1(s);
+                auto d = seite_drucken(Seite_Datenblatt1, p, *dp.e, SchmaleSchrift(faktor));
                 const auto w = d.prints("W").at(0);
                 const auto first_zeile =
                     d.prints(sprache == std::string("d") ? "Dachfirst:" : "Roof ridge:").at(0);
@@ -378,9 +374,7 @@ TEST(Datenblatt, ARegionStationShowsTheRegionsTextInsideTheFrameInBothLanguages)
         for (int region = 1; region <= KLIMAREGIONEN; ++region) {
             SCOPED_TRACE(std::string(sprache) + " region " + std::to_string(region));
             p.Klimadatei = p.Regionsdatei[region];
-            RecordingPrinter d;
-            Druckseite s{d, p, *dp.e, ',', {}};
-            Seite_Datenblatt1(s);
+            RecordingPrinter d = seite_drucken(Seite_Datenblatt1, p, *dp.e);
             const auto& log = d.log();
             const std::string kopf =
                 sprache == std::string("d") ? "Klimaregion:" : "Climatic region:";
@@ -405,9 +399,7 @@ TEST(Datenblatt, ARegionStationShowsTheRegionsTextInsideTheFrameInBothLanguages)
         }
         p.Klimadatei = p.Regionsdatei[4];
         p.Klimaauswahl = 2;
-        RecordingPrinter europa;
-        Druckseite s2{europa, p, *dp.e, ',', {}};
-        Seite_Datenblatt1(s2);
+        RecordingPrinter europa = seite_drucken(Seite_Datenblatt1, p, *dp.e);
         EXPECT_TRUE(europa.prints("Klimaregion:").empty());
         EXPECT_EQ(europa.prints(sprache == std::string("d") ? "Klimastation:" : "Climate station:")
                       .size(),
@@ -421,14 +413,9 @@ TEST(Heizenergie, TheYearRowAddsUpTheMonthsAlsoWithElectricityAsTheCarrier) {
     Projekt& p = *dp.p;
     for (const char* traeger : {"Heizöl", "Strom"}) {
         p.Energie.Traegername = traeger;
-        RecordingPrinter d;
-        Druckseite s{d, p, *dp.e, ',', {}};
-        Seite_Heizenergie(s);
+        RecordingPrinter d = seite_drucken(Seite_Heizenergie, p, *dp.e);
         // The row "Jahressumme" against the twelve month rows above it, column by column.
-        std::vector<RecordingPrinter::Eintrag> zeilen;
-        for (const auto& e : d.von_art(Art::Print)) {
-            zeilen.push_back(e);
-        }
+        const std::vector<RecordingPrinter::Eintrag> zeilen = d.von_art(Art::Print);
         const auto jahr = d.prints("Jahressumme").at(0);
         const auto januar = d.prints("Januar").at(0);
         std::map<double, double> summe, wert;

@@ -15,10 +15,11 @@ namespace fs = std::filesystem;
 namespace {
 
 using Antwort = Dialogs::Antwort;
+// Lines of a project file by number, with their new text.
+using Zeilen = std::vector<std::pair<int, std::string>>;
 
 // The new project's file with some lines replaced (index = line number - 1).
-std::string projektdatei(const Programm& prog,
-                         const std::vector<std::pair<int, std::string>>& zeilen) {
+std::string projektdatei(const Programm& prog, const Zeilen& zeilen) {
     std::string text = datei_schreiben(*prog.p);
     std::vector<std::string> z;
     for (std::size_t a = 0, e = text.find("\r\n"); e != std::string::npos;
@@ -35,10 +36,15 @@ std::string projektdatei(const Programm& prog,
     return aus;
 }
 
+// The new project's file with `zeilen` replaced, written as `name` and opened.
+void oeffnen(Programm& prog, const std::string& name, const Zeilen& zeilen) {
+    prog.ordner.schreiben(name, projektdatei(prog, zeilen));
+    prog.io->datei_oeffnen(prog.pfad(name));
+}
+
 // A tall, light building on a small floor: it reads, but its effective heat capacity comes out
 // negative, so its calculation fails.
-const std::vector<std::pair<int, std::string>> UNRECHENBAR = {{2, " 2"}, {3, " 2"},  {4, " 50"},
-                                                              {5, " 1"}, {57, " 2"}, {58, " 2"}};
+const Zeilen UNRECHENBAR = {{2, " 2"}, {3, " 2"}, {4, " 50"}, {5, " 1"}, {57, " 2"}, {58, " 2"}};
 
 } // namespace
 
@@ -57,8 +63,7 @@ TEST(FILEIO, StartBuildsTheNewProjectUnnamed) {
 TEST(FILEIO, OffGridValueSurvivesWhereItsPositionStaysAndIsQuantisedWhereItMoves) {
     Programm prog;
     // l_sb stands at 100 (10.0 m): 10.04 m keeps its position. b moves to 123.
-    prog.ordner.schreiben("p.vel", projektdatei(prog, {{2, " 10.04"}, {3, " 12.34"}}));
-    prog.io->datei_oeffnen(prog.pfad("p.vel"));
+    oeffnen(prog, "p.vel", {{2, " 10.04"}, {3, " 12.34"}});
     ASSERT_TRUE(prog.dialogs.nachrichten.empty());
     EXPECT_EQ(prog.p->l, 10.04f);
     EXPECT_EQ(prog.p->b, 12.3f);
@@ -74,8 +79,7 @@ TEST(FILEIO, OffGridValueSurvivesWhereItsPositionStaysAndIsQuantisedWhereItMoves
 TEST(FILEIO, HeatedAtticKeepsTheRoofHeightOfTheFile) {
     for (const char* hd : {" 1.5", " 1", " 3.3", " 0"}) {
         Programm prog;
-        prog.ordner.schreiben("d.vel", projektdatei(prog, {{59, " 1"}, {60, "2"}, {61, hd}}));
-        prog.io->datei_oeffnen(prog.pfad("d.vel"));
+        oeffnen(prog, "d.vel", {{59, " 1"}, {60, "2"}, {61, hd}});
         ASSERT_TRUE(prog.dialogs.nachrichten.empty()) << hd;
         EXPECT_EQ(prog.p->hd, std::stof(hd)) << hd;
         EXPECT_TRUE(prog.p->Dachgeschoss);
@@ -86,15 +90,13 @@ TEST(FILEIO, HeatedAtticKeepsTheRoofHeightOfTheFile) {
 
 TEST(FILEIO, HeatBridgeOptionFollowsTheStoredValue) {
     Programm prog;
-    prog.ordner.schreiben("a.vel", projektdatei(prog, {{69, " .05"}}));
-    prog.io->datei_oeffnen(prog.pfad("a.vel"));
-    EXPECT_EQ(prog.e->daemmung.Waermebruecken_opt.gesetzt(), 3);
-    EXPECT_EQ(prog.p->Waermebruecken, 0.05f);
-    // A value of none of the options sets none and stays.
-    prog.ordner.schreiben("b.vel", projektdatei(prog, {{69, " .07"}}));
-    prog.io->datei_oeffnen(prog.pfad("b.vel"));
-    EXPECT_EQ(prog.e->daemmung.Waermebruecken_opt.gesetzt(), 3);
-    EXPECT_EQ(prog.p->Waermebruecken, 0.07f);
+    // .05 is an option's value; .07, the value of none, sets none and the option stays.
+    for (const auto& [name, zeile, wert] :
+         {std::tuple{"a.vel", " .05", 0.05f}, {"b.vel", " .07", 0.07f}}) {
+        oeffnen(prog, name, {{69, zeile}});
+        EXPECT_EQ(prog.e->daemmung.Waermebruecken_opt.gesetzt(), 3) << zeile;
+        EXPECT_EQ(prog.p->Waermebruecken, wert) << zeile;
+    }
     // The building plane's displays after a load: the set temperature by "0.00".
     EXPECT_EQ(prog.e->gebaeude.troom_anz.Caption, "20.00");
     EXPECT_EQ(prog.e->gebaeude.WRG_anz.Caption, "0");
@@ -152,20 +154,17 @@ TEST(FILEIO, EveryOpenFaultIsDateifehler) {
 TEST(FILEIO, IndicesOutsideTheirListsAreReadFaults) {
     // Roof space row 3 is the table's empty row, which the list does not offer. The window
     // types count in the individual mode only: the same windows take the south type.
-    using Zeilen = std::vector<std::pair<int, std::string>>;
     for (const Zeilen& zeilen :
          {Zeilen{{28, " 3"}}, Zeilen{{28, "-1"}}, Zeilen{{16, " 8"}, {62, "1"}},
           Zeilen{{19, "-1"}, {62, "1"}}, Zeilen{{17, " 8"}}, Zeilen{{29, " 5"}},
           Zeilen{{65, " 10"}}, Zeilen{{67, " 5"}}}) {
         Programm prog;
-        prog.ordner.schreiben("x.vel", projektdatei(prog, zeilen));
-        prog.io->datei_oeffnen(prog.pfad("x.vel"));
+        oeffnen(prog, "x.vel", zeilen);
         EXPECT_EQ(prog.dialogs.texte(), std::vector<std::string>{"Dateifehler!"})
             << zeilen[0].first << ":" << zeilen[0].second;
     }
     Programm gleich;
-    gleich.ordner.schreiben("x.vel", projektdatei(gleich, {{16, " 8"}}));
-    gleich.io->datei_oeffnen(gleich.pfad("x.vel"));
+    oeffnen(gleich, "x.vel", {{16, " 8"}});
     EXPECT_TRUE(gleich.dialogs.nachrichten.empty());
     EXPECT_EQ(gleich.p->fenstern_typ, 3);
 }
@@ -173,8 +172,7 @@ TEST(FILEIO, IndicesOutsideTheirListsAreReadFaults) {
 TEST(FILEIO, FaultWhileReadingLeavesTheGuardSet) {
     Programm prog;
     // 60 m is beyond the length's scroll field.
-    prog.ordner.schreiben("gross.vel", projektdatei(prog, {{2, " 60"}}));
-    prog.io->datei_oeffnen(prog.pfad("gross.vel"));
+    oeffnen(prog, "gross.vel", {{2, " 60"}});
     EXPECT_EQ(prog.dialogs.texte(), std::vector<std::string>{"Dateifehler!"});
     EXPECT_EQ(prog.p->FormLoadGuard, -1);
     // No recalculation until a new project or a good open.
@@ -375,8 +373,7 @@ TEST(FILEIO, DialogsStartInTheFolderOfTheProject) {
 TEST(FILEIO, MissingStationOfTheProjectFallsBackWithTheClimateMessage) {
     for (const char* auswahl : {" 1", " 2"}) {
         Programm prog;
-        prog.ordner.schreiben("k.vel", projektdatei(prog, {{56, "gibtsnicht.met"}, {64, auswahl}}));
-        prog.io->datei_oeffnen(prog.pfad("k.vel"));
+        oeffnen(prog, "k.vel", {{56, "gibtsnicht.met"}, {64, auswahl}});
         ASSERT_EQ(prog.dialogs.nachrichten.size(), 1u) << auswahl;
         EXPECT_EQ(prog.dialogs.nachrichten[0].titel, prog.p->txt_Klima_Titel);
         EXPECT_EQ(prog.dialogs.nachrichten[0].text, prog.p->txt_Klima_fehlt);
@@ -401,8 +398,7 @@ TEST(FILEIO, CalculationFaultWhileOpeningTellsItsCauseBelowTheMessage) {
     };
     for (const auto& f : faelle) {
         Programm prog(f.sprache);
-        prog.ordner.schreiben("hoch.vel", projektdatei(prog, UNRECHENBAR));
-        prog.io->datei_oeffnen(prog.pfad("hoch.vel"));
+        oeffnen(prog, "hoch.vel", UNRECHENBAR);
         ASSERT_EQ(prog.dialogs.nachrichten.size(), 1u) << f.sprache;
         EXPECT_EQ(prog.dialogs.nachrichten[0].text.rfind(f.text, 0), 0u)
             << prog.dialogs.nachrichten[0].text;
@@ -414,7 +410,7 @@ TEST(FILEIO, CalculationFaultWhileOpeningTellsItsCauseBelowTheMessage) {
 TEST(FILEIO, SaveAfterAFailedOpenAsksForANameAndLeavesTheFileAlone) {
     // A value beyond its scroll field, a calculation that fails, a file cut short, a wrong
     // version line.
-    const std::vector<std::pair<std::string, std::vector<std::pair<int, std::string>>>> faelle = {
+    const std::vector<std::pair<std::string, Zeilen>> faelle = {
         {"gross", {{2, " 60"}}}, {"hoch", UNRECHENBAR}, {"kurz", {}}, {"version", {}}};
     for (const auto& [name, zeilen] : faelle) {
         Programm prog;

@@ -34,6 +34,11 @@ std::vector<std::string> version32(std::vector<std::string> werte = NEU) {
     return werte;
 }
 
+// Reads `zeilen` as a project file into `prog`.
+bool lesen(Programm& prog, const std::vector<std::string>& zeilen) {
+    return datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(zeilen));
+}
+
 } // namespace
 
 TEST(Zahltext, PlainNumberLines) {
@@ -115,7 +120,7 @@ TEST(Projektdatei, TolerantListInput) {
     z[18] = ".35";          // no blank, no zero (kwn, line 20 before the erase)
     z.push_back("further lines are ignored");
     Programm prog;
-    ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
+    ASSERT_TRUE(lesen(prog, z));
     EXPECT_EQ(prog.p->l, 12.5f);
     EXPECT_EQ(prog.p->b, 8.0f);
     EXPECT_EQ(prog.p->h, 99.0f);
@@ -141,7 +146,7 @@ TEST(Projektdatei, ItemsAfterACommaAreReadFromTheSameLine) {
     z[54] = "trier.met, 2"; // the station, then the inner wall kind of the next line
     z.erase(z.begin() + 55);
     Programm prog;
-    ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
+    ASSERT_TRUE(lesen(prog, z));
     EXPECT_EQ(prog.p->l, 12.5f);
     EXPECT_EQ(prog.p->b, 10.0f);
     EXPECT_EQ(prog.p->Klimadatei, "trier.met");
@@ -155,7 +160,7 @@ TEST(Projektdatei, ItemsAfterACommaAreReadFromTheSameLine) {
     z[0] = "Velmaris Version 3.2,cut";
     Programm drittes;
     try {
-        datei_lesen(*drittes.p, *drittes.e, drittes.dialogs, datei(z));
+        lesen(drittes, z);
         FAIL() << "the text after the comma is read as the length";
     } catch (const Laufzeitfehler& f) {
         EXPECT_EQ(f.nummer(), Laufzeitfehler::Typfehler);
@@ -163,26 +168,20 @@ TEST(Projektdatei, ItemsAfterACommaAreReadFromTheSameLine) {
     // A station name with a comma is cut there, and what follows is the next value.
     z = version32();
     z[55] = "  trier.met,x";
-    EXPECT_THROW(datei_lesen(*drittes.p, *drittes.e, drittes.dialogs, datei(z)), Laufzeitfehler);
+    EXPECT_THROW(lesen(drittes, z), Laufzeitfehler);
     EXPECT_EQ(drittes.p->Klimadatei, "trier.met");
 }
 
 TEST(Projektdatei, WindowModeLineWithAnotherValueKeepsTheOption) {
-    for (const char* zeile : {"5", "-1"}) {
+    for (const auto& [zeile, modus] : {std::pair{"5", 1}, {"-1", 1}, {"0", 0}}) {
         Programm prog;
         prog.e->fenster.Option1.setzen(1);
         std::vector<std::string> z = version32();
         z[61] = zeile;
-        ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
-        EXPECT_EQ(prog.e->fenster.Option1.gesetzt(), 1) << zeile;
-        EXPECT_EQ(prog.p->Fenstermodus, 1) << zeile;
+        ASSERT_TRUE(lesen(prog, z));
+        EXPECT_EQ(prog.e->fenster.Option1.gesetzt(), modus) << zeile;
+        EXPECT_EQ(prog.p->Fenstermodus, modus) << zeile;
     }
-    Programm prog;
-    prog.e->fenster.Option1.setzen(1);
-    std::vector<std::string> z = version32();
-    z[61] = "0";
-    ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
-    EXPECT_EQ(prog.e->fenster.Option1.gesetzt(), 0);
 }
 
 TEST(Projektdatei, ShortOrBrokenFilesThrowAndKeepWhatWasRead) {
@@ -191,30 +190,22 @@ TEST(Projektdatei, ShortOrBrokenFilesThrowAndKeepWhatWasRead) {
     kurz.resize(30);
     kurz[1] = " 17";
     try {
-        datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(kurz));
+        lesen(prog, kurz);
         FAIL() << "a short file must throw";
     } catch (const Laufzeitfehler& f) {
         EXPECT_EQ(f.nummer(), Laufzeitfehler::EingabeNachDateiende);
     }
     EXPECT_EQ(prog.p->l, 17.0f);
 
-    std::vector<std::string> falsch = version32();
-    falsch[3] = "abc";
-    EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
-    falsch = version32();
-    falsch[7] = "40000"; // orient does not fit 16 bits
-    EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
-    falsch = version32();
-    falsch[57] = " 3"; // no such construction row
-    EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
-    falsch[57] = "-1";
-    EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
-    falsch = version32();
-    falsch[58] = " 2"; // a check holds 0 or 1
-    EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
-    falsch = version32();
-    falsch[1] = "1E39"; // beyond a 32-bit float
-    EXPECT_THROW(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(falsch)), Laufzeitfehler);
+    // Not a number; an orientation beyond 16 bits; no such construction row, either way; a
+    // check holding neither 0 nor 1; a value beyond a 32-bit float.
+    const std::pair<std::size_t, const char*> brueche[] = {{3, "abc"}, {7, "40000"}, {57, " 3"},
+                                                           {57, "-1"}, {58, " 2"},   {1, "1E39"}};
+    for (const auto& [zeile, wert] : brueche) {
+        std::vector<std::string> falsch = version32();
+        falsch[zeile] = wert;
+        EXPECT_THROW(lesen(prog, falsch), Laufzeitfehler) << zeile << ": " << wert;
+    }
 }
 
 TEST(Projektdatei, RidgeLineWithAnotherValueClearsBothOptions) {
@@ -222,7 +213,7 @@ TEST(Projektdatei, RidgeLineWithAnotherValueClearsBothOptions) {
     z[58] = " 1"; // heated attic
     z[59] = "7";
     Programm prog;
-    ASSERT_TRUE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
+    ASSERT_TRUE(lesen(prog, z));
     EXPECT_EQ(prog.e->geometrie.Option_Dachfirst.gesetzt(), -1);
     EXPECT_EQ(prog.p->Dachfirst, 0);
     // Written back as east-west, which is what the driver made of it.
@@ -235,7 +226,7 @@ TEST(Projektdatei, WrongVersionChangesNothingButTheName) {
     const std::string vorher = datei_schreiben(*prog.p);
     std::vector<std::string> z = version32();
     z[0] = "Velmaris Version 3.1";
-    EXPECT_FALSE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
+    EXPECT_FALSE(lesen(prog, z));
     EXPECT_EQ(datei_schreiben(*prog.p), vorher);
     EXPECT_EQ(prog.p->Datei, "default.vel");
     ASSERT_EQ(prog.dialogs.nachrichten.size(), 1u);
@@ -247,5 +238,5 @@ TEST(Projektdatei, WrongVersionChangesNothingButTheName) {
               "This is not a valid Velmaris data file.\r\n\r\nData could not be read.!");
     // The comparison is exact, case included.
     z[0] = "velmaris version 3.2";
-    EXPECT_FALSE(datei_lesen(*prog.p, *prog.e, prog.dialogs, datei(z)));
+    EXPECT_FALSE(lesen(prog, z));
 }

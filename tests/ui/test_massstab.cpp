@@ -50,9 +50,10 @@ class TestMassstab : public QObject {
     std::unique_ptr<SkriptDialogs> dialoge;
     std::unique_ptr<Testprogramm> programm;
 
-    void starten() {
+    Hauptfenster& starten(const char* sprache = "d") {
         dialoge = std::make_unique<SkriptDialogs>();
-        programm = programm_starten(dialoge.get(), *klima, "d");
+        programm = programm_starten(dialoge.get(), *klima, sprache);
+        return *programm->haupt;
     }
 
 private slots:
@@ -64,8 +65,7 @@ private slots:
 
     // The chart has twice the pixels at 2, drawn there directly, not a copy of the small one.
     void diagramm_in_bildschirmaufloesung() {
-        starten();
-        Hauptfenster& h = *programm->haupt;
+        Hauptfenster& h = starten();
         h.ausgabe_zeigen(Hauptfenster::Uebersicht);
         ChartWidget* c = programm->uebersicht_diagramme.Temperaturen;
         const QImage klein = c->flaeche().bild();
@@ -131,8 +131,7 @@ private slots:
     // pixel at every scale, and the labels they bring up stand where the pointer is.
     void treffer() {
         QFETCH(double, s);
-        starten();
-        Hauptfenster& h = *programm->haupt;
+        Hauptfenster& h = starten();
         h.ausgabe_zeigen(Hauptfenster::Uebersicht);
         UebersichtDiagramme& u = programm->uebersicht_diagramme;
         // January's red bar, found in the design's pixels before the window grows.
@@ -196,8 +195,7 @@ private slots:
     // A month chosen while the window is enlarged: the marker lies on its button, also after
     // the window went back to the design's size.
     void spaeter_gesetzte_lage_folgt_dem_massstab() {
-        starten();
-        Hauptfenster& h = *programm->haupt;
+        Hauptfenster& h = starten();
         h.ausgabe_zeigen(Hauptfenster::Uebersicht);
         UebersichtDiagramme& u = programm->uebersicht_diagramme;
         vergroessern(h, 1.5);
@@ -211,8 +209,7 @@ private slots:
     // The zoom steps by menu and keys: the window's client area is the design times the step
     // as far as the screen's free area allows, and no smaller; Ctrl+0 gives the design's size.
     void zoom() {
-        starten();
-        Hauptfenster& h = *programm->haupt;
+        Hauptfenster& h = starten();
         auto client = [&h] { return h.centralWidget()->size(); };
         QCOMPARE(client(), QSize(800, 546));
         QVERIFY(!h.mnuZoomKleiner->isEnabled());
@@ -258,13 +255,12 @@ private slots:
 
     // The captions of the zoom in the language of the run.
     void zoom_auf_englisch() {
-        dialoge = std::make_unique<SkriptDialogs>();
-        programm = programm_starten(dialoge.get(), *klima, "e");
+        Hauptfenster& h = starten("e");
         // The menus give their entries access keys of their own.
-        auto text = [this](QAction* a) { return a->text().remove(QLatin1Char('&')); };
-        QCOMPARE(text(programm->haupt->mnuZoomGroesser), QStringLiteral("Zoom in"));
-        QCOMPARE(text(programm->haupt->mnuZoomKleiner), QStringLiteral("Zoom out"));
-        QCOMPARE(text(programm->haupt->mnuZoomOriginal), QStringLiteral("Actual size"));
+        auto text = [](QAction* a) { return a->text().remove(QLatin1Char('&')); };
+        QCOMPARE(text(h.mnuZoomGroesser), QStringLiteral("Zoom in"));
+        QCOMPARE(text(h.mnuZoomKleiner), QStringLiteral("Zoom out"));
+        QCOMPARE(text(h.mnuZoomOriginal), QStringLiteral("Actual size"));
     }
 };
 
