@@ -121,7 +121,7 @@ public:
         return programm_->report([](const std::string& t) { return times_breite(t); });
     }
     std::string temperaturen() const { return programm_->temperaturen(); }
-    const Projekt& projekt() const { return programm_->p; }
+    const Projekt& datensatz() const { return programm_->p; }
     // The chart's commands as a Float64Array view (valid until the next call into the module).
     val befehle(const std::string& feld) {
         CanvasFlaeche* f = programm_->flaeche(feld);
@@ -152,7 +152,7 @@ private:
 // benchmark's figure beside the native alles_berechnen.
 class Rechenprobe {
 public:
-    explicit Rechenprobe(const Seitenprogramm& s) : kopie_(s.projekt()) {}
+    explicit Rechenprobe(const Seitenprogramm& s) : kopie_(s.datensatz()) {}
     // False where the run stopped short (a fault, or a record still being built up).
     bool rechnen() {
         try {
