@@ -100,12 +100,13 @@ Ebenenlage ebenenlage(int16_t orient, double azimut, double neigung) {
 }
 
 float einfallsfaktor(const Sonnenstunde& s, const Ebenenlage& e, double sin_phi, double cos_phi) {
-    double c = s.sin_d * sin_phi * e.cos_b - cos_phi * s.sin_d * e.sin_b * e.cos_g +
-               cos_phi * s.cos_d * e.cos_b * s.cos_w +
-               sin_phi * s.cos_d * e.sin_b * e.cos_g * s.cos_w +
-               e.sin_b * s.cos_d * e.sin_g * s.sin_w;
-    if (c < 0) {
-        c = 0;
+    const double c = s.sin_d * sin_phi * e.cos_b - cos_phi * s.sin_d * e.sin_b * e.cos_g +
+                     cos_phi * s.cos_d * e.cos_b * s.cos_w +
+                     sin_phi * s.cos_d * e.sin_b * e.cos_g * s.cos_w +
+                     e.sin_b * s.cos_d * e.sin_g * s.sin_w;
+    // With the sun behind the plane the factor is (1 - 1^2.5) * 0, exactly zero.
+    if (c <= 0) {
+        return 0;
     }
     return static_cast<float>((1 - std::pow(1 - c, 2.5)) * c);
 }

@@ -40,13 +40,22 @@ double mit_blanks_lesen(std::string_view text) {
     return wert;
 }
 
+// The first place from `ab` on that holds no blank or tab, or the end. (A loop: the library's
+// find_first_not_of asks memchr once per character.)
+std::size_t nach_blanks(std::string_view text, std::size_t ab) {
+    while (ab < text.size() && (text[ab] == ' ' || text[ab] == '\t')) {
+        ++ab;
+    }
+    return ab;
+}
+
 } // namespace
 
 double numerisch_lesen(std::string_view text) {
     // A station file's fields are blanks and then one unbroken number: read in place. Anything
     // else takes the general path.
-    std::size_t i = text.find_first_not_of(" \t");
-    if (i == std::string_view::npos) {
+    std::size_t i = nach_blanks(text, 0);
+    if (i == text.size()) {
         return 0;
     }
     const std::size_t anfang = text[i] == '+' ? i + 1 : i;
@@ -63,8 +72,8 @@ double numerisch_lesen(std::string_view text) {
             punkt = true;
         } else if (c == ' ' || c == '\t') {
             // Blanks end the number unless more of it follows them.
-            const std::size_t j = text.find_first_not_of(" \t", i);
-            if (j != std::string_view::npos &&
+            const std::size_t j = nach_blanks(text, i);
+            if (j < text.size() &&
                 ((text[j] >= '0' && text[j] <= '9') || (text[j] == '.' && !punkt))) {
                 return mit_blanks_lesen(text);
             }
