@@ -3,11 +3,11 @@
 #include "climate/klimaregionen.h"
 #include "planes/Eingabeflaechen.h"
 #include "planes/Fensterfassade.h"
-#include "project/Zahlformat.h"
 #include "print/Druckdiagramme.h"
 #include "print/Drucker.h"
 #include "print/Drucktext.h"
 #include "print/Seiten.h"
+#include "project/Zahlformat.h"
 
 #include <sstream>
 #include <string>

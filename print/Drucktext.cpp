@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/Drucktext.h"
 
-#include "project/Zahlformat.h"
 #include "print/Drucker.h"
+#include "project/Zahlformat.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts/Diagrammtexte.h"
-#include "project/Zahlformat.h"
 #include "print/Druckdiagramme.h"
 #include "print/Drucker.h"
 #include "print/Drucktext.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 #include <cmath>

@@ -2,9 +2,9 @@
 #include "report/Temperaturverlauf.h"
 
 #include "climate/import/cp1252.h"
-#include "project/Zahlformat.h"
 #include "project/Dateizugriff.h"
 #include "project/Laufzeitfehler.h"
+#include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Drucken.h"
 
-#include "project/lebenszyklus/FILEIO.h"
+#include "print/qt/QtDrucker.h"
 #include "project/c_glob.h"
+#include "project/lebenszyklus/FILEIO.h"
 #include "ui/Bau.h"
 #include "ui/QtDialogs.h"
-#include "print/qt/QtDrucker.h"
 #include "ui/Uebersetzen.h"
 
 #include <QMessageBox>

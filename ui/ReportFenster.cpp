@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ReportFenster.h"
 
-#include "project/lebenszyklus/FILEIO.h"
 #include "project/c_glob.h"
+#include "project/lebenszyklus/FILEIO.h"
 #include "report/Report.h"
 #include "report/RtfLeser.h"
 #include "report/Temperaturverlauf.h"

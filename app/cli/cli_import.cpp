@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/cli/aufrufe.h"
 #include "app/cli/befehle.h"
-#include "project/pfade.h"
 #include "climate/import/importieren.h"
 #include "climate/import/importtexte.h"
 #include "climate/import/zahltext.h"
+#include "project/pfade.h"
 
 #include <cmath>
 #include <filesystem>

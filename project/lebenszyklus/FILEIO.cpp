@@ -2,8 +2,8 @@
 #include "project/lebenszyklus/FILEIO.h"
 
 #include "calc/c_mod.h"
-#include "climate/klimadatei.h"
 #include "climate/ebene/wetter_laden.h"
+#include "climate/klimadatei.h"
 #include "planes/Eingabeflaechen.h"
 #include "project/Dateiendung.h"
 #include "project/Dateizugriff.h"

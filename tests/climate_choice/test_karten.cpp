@@ -2,8 +2,8 @@
 // The delivered map pictures and the bounded BMP reader behind the region pick.
 #include "climate/Bitmap.h"
 #include "climate/ebene/E_Klima.h"
-#include "climate/klimaregionen.h"
 #include "climate/ebene/stationskarten.h"
+#include "climate/klimaregionen.h"
 #include "climate/stationslisten.h"
 #include "project/FatalError.h"
 

@@ -4,8 +4,8 @@
 #include "planes/ListField.h"
 #include "planes/OptionGroup.h"
 #include "planes/ScrollField.h"
-#include "project/Zahlformat.h"
 #include "project/Laufzeitfehler.h"
+#include "project/Zahlformat.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The print dialog and the Qt printer in millimetres: captions in both languages, printing to a
 // PDF file where no printer is installed, and the menu entry of the main window.
+#include "print/qt/QtDrucker.h"
 #include "tests/print/Druckhilfe.h"
 #include "ui/Drucken.h"
 #include "ui/Hauptfenster.h"
-#include "print/qt/QtDrucker.h"
 
 #include <QAction>
 #include <QCheckBox>
