@@ -4,6 +4,13 @@
 #include "project/Zahlformat.h"
 #include "project/c_glob.h"
 
+std::string klima_jahreswert(const Klimakennwerte& k, double wert, char dezimal) {
+    // The station's year values are written when a station is loaded; a record that has read
+    // its station file without that step has none yet.
+    const bool jahreswerte = k.MaxMonat >= 1 && k.MaxMonat <= 12;
+    return jahreswerte ? format_muster(wert, "0.0", dezimal) : std::string();
+}
+
 KlimainfoTexte klimainfo_texte(const Projekt& p, char dezimal) {
     const Klimakennwerte& k = p.Klimainfo;
     auto zahl = [dezimal](double v, const char* muster) {
@@ -12,10 +19,7 @@ KlimainfoTexte klimainfo_texte(const Projekt& p, char dezimal) {
     auto monat = [&p](int m) { return m >= 1 && m <= 12 ? p.Monat[m].Name : std::string(); };
     KlimainfoTexte t;
     t.anz_klimaregion = k.Klimaname;
-    // The station's year values are written when a station is loaded; a record that has read
-    // its station file without that step has none yet.
-    const bool jahreswerte = k.MaxMonat >= 1 && k.MaxMonat <= 12;
-    auto klimawert = [&](double v) { return jahreswerte ? zahl(v, "0.0") : std::string(); };
+    auto klimawert = [&](double v) { return klima_jahreswert(k, v, dezimal); };
     t.anz_MaxJahrTemp = klimawert(k.MaxJahrTemp);
     t.anz_MaxMonatTemp = klimawert(k.MaxMonatTemp);
     t.anz_MaxMonatName = monat(k.MaxMonat);

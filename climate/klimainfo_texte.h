@@ -3,6 +3,7 @@
 
 #include <string>
 
+struct Klimakennwerte;
 struct Projekt;
 
 // The texts of the labels of the climate and building plane A_Klima, formed from the record:
@@ -26,3 +27,7 @@ struct KlimainfoTexte {
 // The label texts with the decimal mark `dezimal`. The station's year values stay empty while
 // the record has read its station without them.
 KlimainfoTexte klimainfo_texte(const Projekt& p, char dezimal);
+
+// One year value of the station read last, "0.0" with the decimal mark `dezimal`; empty while the
+// record has read its station without its year values.
+std::string klima_jahreswert(const Klimakennwerte& k, double wert, char dezimal);

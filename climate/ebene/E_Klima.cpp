@@ -92,10 +92,11 @@ void klima_zeigen(E_Klima& e, Projekt& p) {
 }
 
 void klima_jahreswerte_zeigen(E_Klima& e, const Projekt& p, char dezimal) {
-    const KlimainfoTexte t = klimainfo_texte(p, dezimal);
-    e.anz_MittelJahrTemp.Caption = t.anz_MittelJahrTemp;
-    e.anz_MinMonatTemp.Caption = t.anz_MinMonatTemp;
-    e.anz_MaxMonatTemp.Caption = t.anz_MaxMonatTemp;
+    // Only the three values this plane shows: it is filled on every recalculation.
+    const Klimakennwerte& k = p.Klimainfo;
+    e.anz_MittelJahrTemp.Caption = klima_jahreswert(k, k.MittelJahrTemp, dezimal);
+    e.anz_MinMonatTemp.Caption = klima_jahreswert(k, k.MinMonatTemp, dezimal);
+    e.anz_MaxMonatTemp.Caption = klima_jahreswert(k, k.MaxMonatTemp, dezimal);
 }
 
 void Klimaliste::waehlen(int i) {
