@@ -4,18 +4,29 @@
 #include "calc/c_mod.h"
 #include "climate/klimadatei.h"
 
-#include <atomic>
 #include <fstream>
+#include <random>
 #include <sstream>
+#include <stdexcept>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
 
 TempOrdner::TempOrdner() {
-    static std::atomic<int> zaehler{0};
-    pfad_ = fs::temp_directory_path() /
-            ("velmaris-test-" + std::to_string(::getpid()) + "-" + std::to_string(zaehler++));
-    fs::create_directories(pfad_);
+    // A fresh folder every time: a folder left by a killed test of a reused process id must not
+    // be taken over. The name stays in lower case, as the lowered command-line paths need.
+    std::random_device zufall;
+    for (int versuch = 0; versuch < 100; ++versuch) {
+        const fs::path name =
+            fs::temp_directory_path() / ("velmaris-test-" + std::to_string(::getpid()) + "-" +
+                                         std::to_string(zufall() % 1000000000u));
+        if (::mkdir(name.c_str(), 0700) == 0) {
+            pfad_ = name;
+            return;
+        }
+    }
+    throw std::runtime_error("no temporary folder in " + fs::temp_directory_path().string());
 }
 
 TempOrdner::~TempOrdner() {
