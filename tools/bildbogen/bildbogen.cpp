@@ -11,9 +11,9 @@
 // the index cannot be written.
 #include "print/Ausdrucken.h"
 #include "print/qt/QtDrucker.h"
-#include "project/Dialogs.h"
 #include "project/c_glob.h"
 #include "tools/bildbogen/Bildablage.h"
+#include "tools/bildbogen/Stilledialoge.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
 #include "ui/ZoomFenster.h"
@@ -28,34 +28,11 @@
 
 #include <filesystem>
 #include <iostream>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace {
-
-// Answers the program's questions without a window: the open dialog gives `datei` once,
-// changes are not kept, and every message goes to the error output, so that a project that
-// calculates badly is told.
-class Stilledialoge : public Dialogs {
-public:
-    std::optional<std::string> datei;
-
-    Antwort nachricht(const std::string& text, const std::string& titel, Symbol, Knoepfe knoepfe,
-                      bool) override {
-        std::cerr << titel << ": " << text << '\n';
-        return knoepfe == Knoepfe::OK ? Antwort::OK : Antwort::Nein;
-    }
-    std::optional<std::string> oeffnen_dialog(const std::string&, int,
-                                              const std::string&) override {
-        return std::exchange(datei, std::nullopt);
-    }
-    std::optional<std::string> speichern_dialog(const std::string&, int,
-                                                const std::string&) override {
-        return std::nullopt;
-    }
-};
 
 struct Bild {
     QString datei, titel;

@@ -3,8 +3,7 @@
 // with its kind, place in its parent, German and English text, and the model a bound control
 // follows. `seitenlage FILE` writes FILE; `seitenlage --pruefen FILE` fails when FILE is not
 // what the planes build now; `seitenlage --diagramme DIR` saves the overview's charts as PNG.
-#include "tests/project/SkriptDialogs.h"
-#include "tests/ui/Uitesthilfe.h"
+#include "tools/bildbogen/Stilledialoge.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
 #include "ui/Hauptfenster.h"
@@ -24,7 +23,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTemporaryDir>
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -92,15 +93,23 @@ void sammeln(const QWidget* w, std::vector<const QWidget*>& liste) {
 }
 
 struct Lauf {
-    std::unique_ptr<TempOrdner> klima = klima_kopie();
-    SkriptDialogs dialoge;
+    // The program may write its language file into the station folder: a copy keeps the
+    // delivered one as it is.
+    QTemporaryDir klima;
+    Stilledialoge dialoge;
     Bindungsliste bindungen;
-    std::unique_ptr<Testprogramm> programm;
+    std::unique_ptr<Projekt> datensatz = std::make_unique<Projekt>();
+    std::unique_ptr<Desktopprogramm> programm;
     std::vector<const QWidget*> widgets;
 
     explicit Lauf(const char* sprache) {
+        programm =
+            std::make_unique<Desktopprogramm>(*datensatz, &dialoge, [] { return std::string(); });
+        std::filesystem::copy(programm->klimaordner, klima.path().toStdString(),
+                              std::filesystem::copy_options::recursive);
+        programm->klimaordner = klima.path().toStdString();
         Bindungen::gebunden = [this](const Bindungen::Bindung& b) { bindungen[b.widget] = b; };
-        programm = programm_starten(&dialoge, *klima, sprache);
+        programm->starten(sprache);
         Bindungen::gebunden = nullptr;
         sammeln(programm->haupt->centralWidget(), widgets);
     }
@@ -341,7 +350,7 @@ int main(int argc, char** argv) {
                               std::istreambuf_iterator<char>());
         if (alt != neu.toStdString()) {
             std::cerr << datei << " is not the layout the planes build now; regenerate it with\n"
-                      << "  build/test/tests/seitenlage web/layout.json\n";
+                      << "  build/test/tools/seitenlage/seitenlage web/layout.json\n";
             return 1;
         }
         return 0;
