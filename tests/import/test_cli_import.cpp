@@ -4,7 +4,6 @@
 #include "tests/support/Testprojekt.h"
 
 #include <cstdlib>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
@@ -42,11 +41,7 @@ TEST(CliImport, WritesTheStation) {
     EXPECT_EQ(ausfuehren("import " + quelle.string() + " --name neu --land Testland --klima " +
                          ordner.pfad().string()),
               0);
-    const std::vector<std::string> z = [&] {
-        std::ifstream datei(ordner.pfad() / "neu.met", std::ios::binary);
-        std::string text((std::istreambuf_iterator<char>(datei)), std::istreambuf_iterator<char>());
-        return crlf_zeilen(text);
-    }();
+    const std::vector<std::string> z = crlf_zeilen(datei_lesen(ordner.pfad() / "neu.met"));
     ASSERT_EQ(z.size(), 8766u);
     EXPECT_EQ(z[0], "Ort (Testland)");
     EXPECT_EQ(z[1], "Breitengrad:   10.5");

@@ -17,13 +17,6 @@ namespace {
 
 const fs::path QUELLEN = fs::path(VELMARIS_SOURCE_DIR) / ".." / "shared" / "climate-sources";
 
-std::string lesen(const fs::path& pfad) {
-    std::ifstream datei(pfad, std::ios::binary);
-    std::ostringstream inhalt;
-    inhalt << datei.rdbuf();
-    return inhalt.str();
-}
-
 // A text in single quotes for the shell.
 std::string zitiert(const std::string& text) {
     std::string aus = "'";
@@ -61,9 +54,9 @@ TEST(Konvertierung, StagedSourcesGiveTheDeliveredFiles) {
                                    " --klima " + zitiert(ordner.pfad().string()) + " " +
                                    (f.size() > 4 ? f[4] : "") + " >/dev/null";
         ASSERT_EQ(std::system(befehl.c_str()), 0) << befehl;
-        const std::string neu = lesen(ordner.pfad() / (f[0] + ".met"));
+        const std::string neu = datei_lesen(ordner.pfad() / (f[0] + ".met"));
         const std::string geliefert =
-            lesen(fs::path(VELMARIS_SOURCE_DIR) / "klima" / (f[0] + ".met"));
+            datei_lesen(fs::path(VELMARIS_SOURCE_DIR) / "klima" / (f[0] + ".met"));
         ASSERT_FALSE(neu.empty());
         EXPECT_TRUE(neu == geliefert) << "klima/" << f[0] << ".met differs from its conversion";
         ++anzahl;

@@ -67,6 +67,15 @@ Quellfehler lesen_fehler(Quellformat format, const std::string& text) {
     return f;
 }
 
+// Rows of the station order at `zone`, each with the hour of the year its temperature tells.
+void reihenfolge_pruefen(const Quelldaten& d, int zone, std::vector<std::pair<int, int>> zeilen) {
+    const std::vector<Quellstunde> z = stationsreihenfolge(d, zone);
+    for (const auto& [zeile, stunde] : zeilen) {
+        EXPECT_NEAR(z[static_cast<std::size_t>(zeile)].Ta, kennung(stunde), 1e-9)
+            << "row " << zeile << " at zone " << zone;
+    }
+}
+
 } // namespace
 
 TEST(QuelleEpw, RecordsByDateWithoutLeapDay) {
@@ -74,13 +83,8 @@ TEST(QuelleEpw, RecordsByDateWithoutLeapDay) {
     EXPECT_EQ(format_erkennen(zeilen_teilen(text)), Quellformat::epw);
     const Quelldaten d = lesen_ok(Quellformat::epw, text);
     ASSERT_EQ(d.stunden.size(), 8760u);
-    EXPECT_EQ(d.ort, "Teststadt");
-    EXPECT_EQ(d.land, "Testland");
-    EXPECT_TRUE(d.koordinaten);
-    EXPECT_DOUBLE_EQ(d.breite, 47.5);
-    EXPECT_DOUBLE_EQ(d.laenge, -122.25);
-    EXPECT_EQ(d.ortszone, -8);
-    EXPECT_EQ(d.stempelzone, -8);
+    EXPECT_EQ(std::tie(d.ort, d.land, d.koordinaten, d.breite, d.laenge, d.ortszone, d.stempelzone),
+              std::make_tuple("Teststadt", "Testland", true, 47.5, -122.25, -8, -8));
     for (const int k : {0, 1415, 1416, 8759}) {
         EXPECT_NEAR(d.stunden[static_cast<std::size_t>(k)].Ta, kennung(k), 1e-9) << k;
         EXPECT_DOUBLE_EQ(d.stunden[static_cast<std::size_t>(k)].G_Gh, k % 24 * 10) << k;
@@ -89,11 +93,8 @@ TEST(QuelleEpw, RecordsByDateWithoutLeapDay) {
 }
 
 TEST(QuelleEpw, StationOrderStartsWithTheLastHour) {
-    const Quelldaten d = lesen_ok(Quellformat::epw, epw("TMY3", false));
-    const std::vector<Quellstunde> zeilen = stationsreihenfolge(d, -8);
-    EXPECT_NEAR(zeilen[0].Ta, kennung(8759), 1e-9);
-    EXPECT_NEAR(zeilen[1].Ta, kennung(0), 1e-9);
-    EXPECT_NEAR(zeilen[8759].Ta, kennung(8758), 1e-9);
+    reihenfolge_pruefen(lesen_ok(Quellformat::epw, epw("TMY3", false)), -8,
+                        {{0, 8759}, {1, 0}, {8759, 8758}});
 }
 
 TEST(QuelleEpw, PvgisExportIsUniversalTime) {
@@ -103,10 +104,7 @@ TEST(QuelleEpw, PvgisExportIsUniversalTime) {
     EXPECT_EQ(d.stempelzone, 0);
     EXPECT_EQ(d.ortszone, 1);
     // Central European rows: the UTC hour ending at 1:00 is the CET hour ending at 2:00.
-    const std::vector<Quellstunde> zeilen = stationsreihenfolge(d, 1);
-    EXPECT_NEAR(zeilen[2].Ta, kennung(0), 1e-9);
-    EXPECT_NEAR(zeilen[1].Ta, kennung(8759), 1e-9);
-    EXPECT_NEAR(zeilen[0].Ta, kennung(8758), 1e-9);
+    reihenfolge_pruefen(d, 1, {{2, 0}, {1, 8759}, {0, 8758}});
 }
 
 TEST(QuelleEpw, FaultsNameTheirLine) {
@@ -148,8 +146,7 @@ TEST(QuelleTry, TotalIsDirectPlusDiffuseAndTheCellGivesTheCoordinates) {
     const Quelldaten d = lesen_ok(Quellformat::try_dat, text);
     EXPECT_NEAR(d.breite, 53.5591, 1e-4);
     EXPECT_NEAR(d.laenge, 8.5872, 1e-4);
-    EXPECT_EQ(d.stempelzone, 1);
-    EXPECT_EQ(d.land, "Deutschland");
+    EXPECT_EQ(std::tie(d.stempelzone, d.land), std::make_tuple(1, "Deutschland"));
     EXPECT_NEAR(d.stunden[13].Ta, kennung(13), 1e-9);
     EXPECT_DOUBLE_EQ(d.stunden[13].G_Gh, 130 + 13);
     EXPECT_DOUBLE_EQ(d.stunden[13].G_Dh, 13);
@@ -171,9 +168,7 @@ TEST(QuelleMos, StartRowDroppedAndLastHourRepeated) {
     }
     EXPECT_EQ(format_erkennen(zeilen_teilen(text)), Quellformat::mos);
     const Quelldaten d = lesen_ok(Quellformat::mos, text);
-    EXPECT_EQ(d.ort, "Frankfurt");
-    EXPECT_DOUBLE_EQ(d.breite, 50.126);
-    EXPECT_EQ(d.stempelzone, 1);
+    EXPECT_EQ(std::tie(d.ort, d.breite, d.stempelzone), std::make_tuple("Frankfurt", 50.126, 1));
     EXPECT_NEAR(d.stunden[0].Ta, kennung(0), 1e-9);
     EXPECT_NEAR(d.stunden[8758].Ta, kennung(8758), 1e-9);
     EXPECT_NEAR(d.stunden[8759].Ta, kennung(8758), 1e-9) << "the missing last hour repeats";
@@ -219,9 +214,7 @@ TEST(QuelleNsrdb, FourQuarterHoursMakeTheHourEndingAtTheLast) {
     const std::string text = nsrdb(0);
     EXPECT_EQ(format_erkennen(zeilen_teilen(text)), Quellformat::nsrdb);
     const Quelldaten d = lesen_ok(Quellformat::nsrdb, text);
-    EXPECT_DOUBLE_EQ(d.breite, 48.21);
-    EXPECT_EQ(d.stempelzone, 0);
-    EXPECT_EQ(d.ortszone, 1);
+    EXPECT_EQ(std::tie(d.breite, d.stempelzone, d.ortszone), std::make_tuple(48.21, 0, 1));
     // Hour ending 1:00: stamps 0:15, 0:30, 0:45, 1:00 are quarter-hours 1..4 of the year.
     EXPECT_DOUBLE_EQ(d.stunden[0].Ta, 2.5);
     EXPECT_DOUBLE_EQ(d.stunden[0].G_Gh, 2.5);
@@ -258,9 +251,7 @@ TEST(QuellePvgis, StampIsTheHourEndingOneHourLater) {
     text += "\nT2m: 2-m air temperature (degree Celsius)\nPVGIS (c) European Union, 2001-2024\n";
     EXPECT_EQ(format_erkennen(zeilen_teilen(text)), Quellformat::pvgis);
     const Quelldaten d = lesen_ok(Quellformat::pvgis, text);
-    EXPECT_TRUE(d.koordinaten);
-    EXPECT_DOUBLE_EQ(d.laenge, -5.929);
-    EXPECT_EQ(d.ortszone, 0);
+    EXPECT_EQ(std::tie(d.koordinaten, d.laenge, d.ortszone), std::make_tuple(true, -5.929, 0));
     EXPECT_NEAR(d.stunden[0].Ta, kennung(0), 1e-9) << "stamp 00:00 is the hour ending 1:00";
     EXPECT_DOUBLE_EQ(d.stunden[8759].G_Gh, 230);
 }
@@ -279,11 +270,8 @@ TEST(QuelleZone, WestwardZonesMoveHoursBack) {
     d.stempelzone = 0;
     d.stunden.resize(8760);
     for (int k = 0; k < 8760; ++k) {
-        d.stunden[static_cast<std::size_t>(k)].Ta = k;
+        d.stunden[static_cast<std::size_t>(k)].Ta = kennung(k);
     }
     // At zone -5 the UTC hour ending 6:00 is the local hour ending 1:00 (row 1).
-    const std::vector<Quellstunde> zeilen = stationsreihenfolge(d, -5);
-    EXPECT_DOUBLE_EQ(zeilen[1].Ta, 5);
-    EXPECT_DOUBLE_EQ(zeilen[0].Ta, 4);
-    EXPECT_DOUBLE_EQ(zeilen[8759].Ta, 3);
+    reihenfolge_pruefen(d, -5, {{1, 5}, {0, 4}, {8759, 3}});
 }

@@ -21,44 +21,45 @@ Klimaimport felder_trier() {
     return f;
 }
 
+// What the station reader makes of the station file written from `zeilen`.
+std::unique_ptr<Projekt> geschrieben_und_gelesen(const std::vector<Quellstunde>& zeilen) {
+    TempOrdner ordner;
+    ordner.schreiben("neu.met", stationsdatei(felder_trier(), zeilen, false));
+    auto p = leeres_projekt();
+    p->KlimaOrdner = ordner.pfad().string();
+    p->Klimadatei = "neu.met";
+    klimadatei_lesen(*p);
+    return p;
+}
+
 } // namespace
 
 TEST(Stationskopf, SignsAndLabelsOfTheStationFile) {
+    // Line 1 in Windows-1252; east longitude and a zone east of Greenwich are written negative;
+    // the labels are 14 bytes, so the number fields start at column 15.
     Klimaimport f = felder_trier();
-    const std::vector<std::string> zeilen = crlf_zeilen(stationskopf(f));
-    ASSERT_EQ(zeilen.size(), 6u);
-    EXPECT_EQ(zeilen[0], "W\xFCrzburg (Deutschland)") << "line 1 in Windows-1252";
-    EXPECT_EQ(zeilen[1], "Breitengrad:   49.75");
-    // East longitude and a zone east of Greenwich are written negative.
-    EXPECT_EQ(zeilen[2], "L\xE4ngengrad:   -6.64");
-    EXPECT_EQ(zeilen[3], "Zeitzone:     -1");
-    EXPECT_EQ(zeilen[4], "");
-    EXPECT_EQ(zeilen[5], "   dy   Ta G_Gh G_Dh");
-    // The label is 14 bytes, so the number field starts at column 15.
-    EXPECT_EQ(zeilen[2].find("-6.64"), 14u);
-
+    using Zeilen = std::vector<std::string>;
+    EXPECT_EQ(crlf_zeilen(stationskopf(f)),
+              (Zeilen{"W\xFCrzburg (Deutschland)", "Breitengrad:   49.75", "L\xE4ngengrad:   -6.64",
+                      "Zeitzone:     -1", "", "   dy   Ta G_Gh G_Dh"}));
+    // A blank, then 0.5 with its zero; 7 East as -7; GMT - 5 positive.
     f.Breitengrad = "0.5";
     f.Laengengrad = "7";
-    f.Laengezusatz = 0;
     f.Zeitzone = "5";
     f.GMT = 1;
-    const std::vector<std::string> z = crlf_zeilen(stationskopf(f));
-    EXPECT_EQ(z[1], "Breitengrad:   0.5") << "a blank, then 0.5 with its zero";
-    EXPECT_EQ(z[2], "L\xE4ngengrad:   -7") << "7 East is written as -7";
-    EXPECT_EQ(z[3], "Zeitzone:      5") << "GMT - 5 is written positive";
-
+    Zeilen z = crlf_zeilen(stationskopf(f));
+    EXPECT_EQ(Zeilen(z.begin() + 1, z.begin() + 4),
+              (Zeilen{"Breitengrad:   0.5", "L\xE4ngengrad:   -7", "Zeitzone:      5"}));
+    // South and west; no negative zero.
     f.Breitezusatz = 1;
     f.Laengezusatz = 1;
     f.Zeitzone = "0";
     f.GMT = 0;
-    const std::vector<std::string> s = crlf_zeilen(stationskopf(f));
-    EXPECT_EQ(s[1], "Breitengrad:  -0.5");
-    EXPECT_EQ(s[2], "L\xE4ngengrad:    7");
-    EXPECT_EQ(s[3], "Zeitzone:      0") << "no negative zero";
-}
-
-TEST(Stationskopf, CommaAsDecimalMark) {
-    Klimaimport f = felder_trier();
+    z = crlf_zeilen(stationskopf(f));
+    EXPECT_EQ(Zeilen(z.begin() + 1, z.begin() + 4),
+              (Zeilen{"Breitengrad:  -0.5", "L\xE4ngengrad:    7", "Zeitzone:      0"}));
+    // A comma as the decimal mark.
+    f = felder_trier();
     f.Dezimalzeichen = 1;
     f.Breitengrad = "49,5";
     EXPECT_EQ(crlf_zeilen(stationskopf(f))[1], "Breitengrad:   49.5");
@@ -75,37 +76,24 @@ TEST(Stationszeile, FourRightAlignedFields) {
     EXPECT_EQ(stationszeile(1, {1, 300.4, 100.3}, true), "    1  1.0  401 100.3\r\n");
 }
 
-TEST(Stationszeile, DiffuseValueOfSixCharactersIsReadAsItsWholePart) {
-    TempOrdner ordner;
-    Klimaimport f = felder_trier();
+TEST(Stationsdatei, DiffuseValueOfSixCharactersIsReadAsItsWholePart) {
     std::vector<Quellstunde> zeilen(8760, Quellstunde{10, 0, 0});
     // Row 13 is January 1, hour 12, at noon at 49.75 N: 400 W/m² total, 123.4 diffuse.
     zeilen[12] = {2.0, 400, 123.4};
-    ordner.schreiben("neu.met", stationsdatei(f, zeilen, false));
-    auto p = leeres_projekt();
-    p->KlimaOrdner = ordner.pfad().string();
-    p->Klimadatei = "neu.met";
-    klimadatei_lesen(*p);
+    const auto p = geschrieben_und_gelesen(zeilen);
     EXPECT_FLOAT_EQ(p->Wetter(1, 1, 12).Diffus, 123) << "columns 16-20 hold \" 123.\"";
     EXPECT_FLOAT_EQ(p->Wetter(1, 1, 12).Ta, 2);
     EXPECT_GT(p->Wetter(1, 1, 12).Direkt, 0);
 }
 
 TEST(Stationsdatei, FirstRowIsTheLastHourOfTheYear) {
-    TempOrdner ordner;
-    Klimaimport f = felder_trier();
     std::vector<Quellstunde> zeilen(8761);
     for (std::size_t i = 0; i < zeilen.size(); ++i) {
         zeilen[i].Ta = static_cast<double>(i % 100) / 10;
     }
-    const std::string text = stationsdatei(f, zeilen, false);
-    const std::vector<std::string> z = crlf_zeilen(text);
-    ASSERT_EQ(z.size(), 8766u) << "only 8760 rows are written";
-    ordner.schreiben("neu.met", text);
-    auto p = leeres_projekt();
-    p->KlimaOrdner = ordner.pfad().string();
-    p->Klimadatei = "neu.met";
-    klimadatei_lesen(*p);
+    EXPECT_EQ(crlf_zeilen(stationsdatei(felder_trier(), zeilen, false)).size(), 8766u)
+        << "only 8760 rows are written";
+    const auto p = geschrieben_und_gelesen(zeilen);
     EXPECT_FLOAT_EQ(p->Wetter(12, 31, 24).Ta, 0.0f) << "row 0";
     EXPECT_FLOAT_EQ(p->Wetter(1, 1, 1).Ta, 0.1f) << "row 1";
     EXPECT_FLOAT_EQ(p->Wetter(12, 31, 23).Ta, 5.9f) << "row 8759";

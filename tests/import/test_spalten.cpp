@@ -5,78 +5,77 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+struct Feld {
+    int nr;
+    bool ok;
+    std::string wert;
+};
+
+} // namespace
+
 TEST(StelleTab, CountsFieldsFromOneAndNeedsNoTabBehindTheLast) {
-    std::string wert;
-    bool ok = false;
-    StelleTab("a\tbb\t\tccc", 2, wert, ok);
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(wert, "bb");
-    StelleTab("a\tbb\t\tccc", 3, wert, ok);
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(wert, "");
-    StelleTab("a\tbb\t\tccc", 4, wert, ok);
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(wert, "ccc");
-    StelleTab("ohne tab", 1, wert, ok);
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(wert, "ohne tab");
+    const std::pair<const char*, Feld> faelle[] = {
+        {"a\tbb\t\tccc", {2, true, "bb"}},
+        {"a\tbb\t\tccc", {3, true, ""}},
+        {"a\tbb\t\tccc", {4, true, "ccc"}},
+        {"ohne tab", {1, true, "ohne tab"}},
+        {"a\tb", {4, false, ""}},
+        {"a\tb\t", {3, true, ""}}, // the field after the last tab exists, though empty
+    };
+    for (const auto& [zeile, feld] : faelle) {
+        std::string wert = "alt";
+        bool ok = !feld.ok;
+        StelleTab(zeile, feld.nr, wert, ok);
+        EXPECT_EQ(ok, feld.ok) << zeile << " #" << feld.nr;
+        EXPECT_EQ(wert, feld.wert) << zeile << " #" << feld.nr;
+    }
 }
 
-TEST(StelleTab, MissingFieldFails) {
-    std::string wert = "alt";
-    bool ok = true;
-    StelleTab("a\tb", 4, wert, ok);
-    EXPECT_FALSE(ok);
-    EXPECT_EQ(wert, "");
-    // The field after the last tab exists, though empty.
-    StelleTab("a\tb\t", 3, wert, ok);
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(wert, "");
-}
-
-TEST(StelleLeer, RightAlignedColumnsEndBehindEachField) {
-    Klimaimport f;
-    f.Datentrennung = 2;
-    Spalten_Festlegen(f, "    1  -2.5  123");
-    ASSERT_EQ(f.Spaltenzahl, 3);
-    EXPECT_EQ(f.Spaltenanfang[1], 6);
-    EXPECT_EQ(f.Spaltenanfang[2], 12);
-    EXPECT_EQ(f.Spaltenanfang[3], 17);
-    EXPECT_EQ(f.Spaltenanfang[4], 0);
-    std::string wert;
-    bool ok = false;
-    // Another row with wider values in the same columns.
-    StelleLeer(f, "   12 -12.5 1000", 1, wert, ok);
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(wert, "   12");
-    StelleLeer(f, "   12 -12.5 1000", 2, wert, ok);
-    EXPECT_EQ(wert, " -12.5");
-    StelleLeer(f, "   12 -12.5 1000", 3, wert, ok);
-    EXPECT_EQ(wert, " 1000");
-    StelleLeer(f, "   12 -12.5 1000", 4, wert, ok);
-    EXPECT_FALSE(ok);
-}
-
-TEST(StelleLeer, LeftAlignedColumnsStartAtEachField) {
-    Klimaimport f;
-    f.Datentrennung = 1;
-    Spalten_Festlegen(f, "  1   -2.5  123");
-    ASSERT_EQ(f.Spaltenzahl, 3);
-    EXPECT_EQ(f.Spaltenanfang[1], 3);
-    EXPECT_EQ(f.Spaltenanfang[2], 7);
-    EXPECT_EQ(f.Spaltenanfang[3], 13);
-    std::string wert;
-    bool ok = false;
-    StelleLeer(f, "  1   -2.5  123", 2, wert, ok);
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(wert, "-2.5  ");
-    StelleLeer(f, "  1   -2.5  123", 3, wert, ok);
-    EXPECT_EQ(wert, "123");
-    // The line must be longer than the start: a last field of one character at the very end
-    // is not found.
-    StelleLeer(f, "  1   -2.5  7", 3, wert, ok);
-    EXPECT_FALSE(ok);
-    EXPECT_EQ(wert, "");
+TEST(StelleLeer, ColumnsFromTheSampleLine) {
+    struct Fall {
+        int16_t trennung; // 1 left-aligned, 2 right-aligned
+        const char* beispiel;
+        std::vector<int16_t> anfaenge;
+        const char* zeile;
+        std::vector<Feld> felder;
+    };
+    const Fall faelle[] = {
+        // Right-aligned columns end behind each field; another row has wider values.
+        {2,
+         "    1  -2.5  123",
+         {6, 12, 17, 0},
+         "   12 -12.5 1000",
+         {{1, true, "   12"}, {2, true, " -12.5"}, {3, true, " 1000"}, {4, false, ""}}},
+        // Left-aligned columns start at each field.
+        {1,
+         "  1   -2.5  123",
+         {3, 7, 13},
+         "  1   -2.5  123",
+         {{2, true, "-2.5  "}, {3, true, "123"}}},
+        // The line must be longer than the start: a last field of one character at the very end
+        // is not found.
+        {1, "  1   -2.5  123", {3, 7, 13}, "  1   -2.5  7", {{3, false, ""}}},
+    };
+    for (const Fall& fall : faelle) {
+        Klimaimport f;
+        f.Datentrennung = fall.trennung;
+        Spalten_Festlegen(f, fall.beispiel);
+        EXPECT_EQ(f.Spaltenzahl, 3) << fall.beispiel;
+        EXPECT_EQ(std::vector<int16_t>(f.Spaltenanfang.begin() + 1,
+                                       f.Spaltenanfang.begin() + 1 +
+                                           static_cast<std::ptrdiff_t>(fall.anfaenge.size())),
+                  fall.anfaenge)
+            << fall.beispiel;
+        for (const Feld& feld : fall.felder) {
+            std::string wert = "alt";
+            bool ok = !feld.ok;
+            StelleLeer(f, fall.zeile, feld.nr, wert, ok);
+            EXPECT_EQ(ok, feld.ok) << fall.zeile << " #" << feld.nr;
+            EXPECT_EQ(wert, feld.wert) << fall.zeile << " #" << feld.nr;
+        }
+    }
 }
 
 TEST(StelleLeer, AtMostHundredColumns) {
@@ -98,36 +97,25 @@ TEST(StelleLeer, AtMostHundredColumns) {
 }
 
 TEST(Meteonorm, RecognisedByTheNamesOfLineFour) {
-    const std::vector<std::string_view> ja = {"Ort", "1,2,3,4", "", "m\tdy\th\tTa\tG_Gh"};
-    const std::vector<std::string_view> nur_ta = {"Ort", "1,2,3,4", "", "m\tdy\th\tTa"};
-    const std::vector<std::string_view> kurz = {"Ort", "1,2,3,4", "Ta G_Gh"};
-    EXPECT_TRUE(ist_meteonorm(ja));
-    EXPECT_FALSE(ist_meteonorm(nur_ta));
-    EXPECT_FALSE(ist_meteonorm(kurz));
+    EXPECT_TRUE(ist_meteonorm({"Ort", "1,2,3,4", "", "m\tdy\th\tTa\tG_Gh"}));
+    EXPECT_FALSE(ist_meteonorm({"Ort", "1,2,3,4", "", "m\tdy\th\tTa"}));
+    EXPECT_FALSE(ist_meteonorm({"Ort", "1,2,3,4", "Ta G_Gh"}));
 }
 
 TEST(Meteonorm, FillsPlaceCoordinatesAndTheFirstSixColumns) {
-    const std::vector<std::string_view> zeilen = {"\"Bern-Liebefeld\"", "46.93,-7.42,565,-1",
-                                                  "dritte Zeile", "m\tdy\th\tG_Gh\tG_Bh\tTa\tG_Dh"};
     Klimaimport f;
     f.Land = "alt";
-    Meteonorm_Lesen(f, zeilen);
-    EXPECT_EQ(f.Standortname, "Bern-Liebefeld");
-    EXPECT_EQ(f.Kopfzeilen, "4");
-    EXPECT_EQ(f.Breitengrad, "46.93");
-    EXPECT_EQ(f.Breitezusatz, 0);
-    EXPECT_EQ(f.Laengengrad, "7.42");
-    EXPECT_EQ(f.Laengezusatz, 1);
-    EXPECT_EQ(f.Zeitzone, "1");
-    EXPECT_EQ(f.GMT, 0);
-    EXPECT_EQ(f.Land, "");
-    EXPECT_EQ(f.Dezimalzeichen, 0);
-    EXPECT_EQ(f.Datentrennung, 0);
+    Meteonorm_Lesen(f, {"\"Bern-Liebefeld\"", "46.93,-7.42,565,-1", "dritte Zeile",
+                        "m\tdy\th\tG_Gh\tG_Bh\tTa\tG_Dh"});
+    EXPECT_EQ(
+        std::tie(f.Standortname, f.Kopfzeilen, f.Breitengrad, f.Laengengrad, f.Zeitzone, f.Land),
+        std::make_tuple("Bern-Liebefeld", "4", "46.93", "7.42", "1", ""));
+    EXPECT_EQ(std::tie(f.Breitezusatz, f.Laengezusatz, f.GMT, f.Dezimalzeichen, f.Datentrennung),
+              std::make_tuple(0, 1, 0, 0, 0));
     EXPECT_FALSE(f.Laden_aktiv);
-    EXPECT_EQ(f.Spaltenbelegung[4], SPALTE_GESAMT);
-    EXPECT_EQ(f.Spaltenbelegung[5], SPALTE_DIREKT);
-    EXPECT_EQ(f.Spaltenbelegung[6], SPALTE_TEMPERATUR);
     // The diffuse column is the seventh: beyond the six that take part.
-    EXPECT_EQ(f.Spaltenbelegung[7], SPALTE_UNBENUTZT);
-    EXPECT_EQ(f.Spaltenbelegung[1], SPALTE_UNBENUTZT);
+    EXPECT_EQ(
+        std::vector<int16_t>(f.Spaltenbelegung.begin() + 1, f.Spaltenbelegung.begin() + 8),
+        (std::vector<int16_t>{SPALTE_UNBENUTZT, SPALTE_UNBENUTZT, SPALTE_UNBENUTZT, SPALTE_GESAMT,
+                              SPALTE_DIREKT, SPALTE_TEMPERATUR, SPALTE_UNBENUTZT}));
 }

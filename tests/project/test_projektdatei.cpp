@@ -42,18 +42,14 @@ bool lesen(Programm& prog, const std::vector<std::string>& zeilen) {
 } // namespace
 
 TEST(Zahltext, PlainNumberLines) {
-    EXPECT_EQ(zahl_str(5.2f), " 5.2");
-    EXPECT_EQ(zahl_str(0.2f), " .2");
-    EXPECT_EQ(zahl_str(10), " 10");
-    EXPECT_EQ(zahl_str(-15), "-15");
-    EXPECT_EQ(zahl_str(-0.5f), "-.5");
-    EXPECT_EQ(zahl_str(0), " 0");
-    EXPECT_EQ(zahl_str(0.58f), " .58");
-    EXPECT_EQ(zahl_str(1234567), " 1234567");
-    EXPECT_EQ(zahl_str(12345678), " 1.234568E+07");
-    EXPECT_EQ(zahl_str(0.0001f), " .0001");
-    EXPECT_EQ(zahl_str(0.00001f), " 1E-05");
-    EXPECT_EQ(zahl_str(1.0f / 3), " .3333333");
+    const std::pair<float, const char*> faelle[] = {
+        {5.2f, " 5.2"},      {0.2f, " .2"},         {10, " 10"},
+        {-15, "-15"},        {-0.5f, "-.5"},        {0, " 0"},
+        {0.58f, " .58"},     {1234567, " 1234567"}, {12345678, " 1.234568E+07"},
+        {0.0001f, " .0001"}, {0.00001f, " 1E-05"},  {1.0f / 3, " .3333333"}};
+    for (const auto& [wert, text] : faelle) {
+        EXPECT_EQ(zahl_str(wert), text) << wert;
+    }
     EXPECT_EQ(zahl_text(2.5f, ','), "2,5");
 }
 
@@ -67,15 +63,10 @@ TEST(Projektdatei, SavedAndReadAgainGivesTheSameLines) {
     Programm prog;
     prog.dialogs.dateien.push_back(prog.pfad("neu.vel"));
     ASSERT_TRUE(prog.io->datei_speichern_unter());
-    const auto vorher = prog.zeilen(prog.pfad("neu.vel"));
-    ASSERT_EQ(vorher.size(), 69u);
-    EXPECT_EQ(vorher[0], "Velmaris Version 3.2");
-
     Programm zweites;
     zweites.io->datei_oeffnen(prog.pfad("neu.vel"));
     EXPECT_TRUE(zweites.dialogs.nachrichten.empty());
-    const std::string wieder = datei_schreiben(*zweites.p);
-    EXPECT_EQ(wieder, datei(vorher));
+    EXPECT_EQ(datei_schreiben(*zweites.p), datei(version32()));
 }
 
 TEST(Projektdatei, OffGridValuesSurviveWriteAndRead) {
