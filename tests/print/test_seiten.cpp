@@ -112,46 +112,48 @@ TEST(Seitenkopf, EnglishFootNamesFileAndPage) {
     EXPECT_EQ(d.prints("- Page 1 / 2 -").size(), 1u);
 }
 
-TEST(Ausdrucken, AllOptionsGiveEightNumberedPagesInTheirOrder) {
+TEST(Ausdrucken, TheTickedOptionsGiveTheirPagesNumberedFromOneInOrder) {
+    const struct {
+        const char* sprache;
+        Druckauswahl auswahl;
+        std::vector<std::string> titel;
+    } faelle[] = {
+        {"d",
+         ALLE,
+         {"Datenblatt (Teil 1):", "Datenblatt (Teil 2):", "Ausgabe: Heiz- und Kühlstunden",
+          "Ausgabe: Wärmebilanz", "Ausgabe: Kühlbilanz", "Ausgabe: Fensterbilanz",
+          "Primär- und Endenergiebedarf Heizung", "Primär- und Endenergiebedarf Kühlung"}},
+        {"e", nur({1}), {"Data sheet (1):", "Data sheet (2):"}},
+        {"d", nur({5, 3}), {"Ausgabe: Wärmebilanz", "Ausgabe: Fensterbilanz"}},
+        // Nothing ticked: no page, but the document is ended.
+        {"d", nur({}), {}},
+    };
     TempOrdner ordner;
-    Druckprojekt dp(ordner, "d");
-    RecordingPrinter d;
-    Ausdrucken(d, *dp.p, *dp.e, ALLE, ',', "1.1.2026");
-
-    EXPECT_EQ(d.von_art(Art::NewPage).size(), 7u);
-    ASSERT_EQ(d.von_art(Art::EndDoc).size(), 1u);
-    EXPECT_EQ(d.log().back().art, Art::EndDoc);
-    const char* titel[] = {"Datenblatt (Teil 1):",
-                           "Datenblatt (Teil 2):",
-                           "Ausgabe: Heiz- und Kühlstunden",
-                           "Ausgabe: Wärmebilanz",
-                           "Ausgabe: Kühlbilanz",
-                           "Ausgabe: Fensterbilanz",
-                           "Primär- und Endenergiebedarf Heizung",
-                           "Primär- und Endenergiebedarf Kühlung"};
-    for (int n = 1; n <= 8; ++n) {
-        EXPECT_TRUE(gedruckt(d, "- Seite " + std::to_string(n) + " / 8 -", n)) << n;
-        EXPECT_TRUE(gedruckt(d, titel[n - 1], n)) << n;
-        EXPECT_TRUE(gedruckt(d, "VELM", n)) << n;
+    for (const auto& f : faelle) {
+        const bool de = f.sprache == std::string("d");
+        const int n = static_cast<int>(f.titel.size());
+        SCOPED_TRACE(std::string(f.sprache) + ", " + std::to_string(n) + " pages");
+        Druckprojekt dp(ordner, f.sprache);
+        RecordingPrinter d;
+        Ausdrucken(d, *dp.p, *dp.e, f.auswahl, de ? ',' : '.', "1.1.2026");
+        EXPECT_EQ(static_cast<int>(d.von_art(Art::NewPage).size()), std::max(n - 1, 0));
+        EXPECT_EQ(d.von_art(Art::EndDoc).size(), 1u);
+        EXPECT_EQ(d.log().back().art, Art::EndDoc);
+        EXPECT_EQ(d.log().size() == 1, n == 0);
+        for (int i = 1; i <= n; ++i) {
+            const std::string fuss = (de ? "- Seite " : "- Page ") + std::to_string(i) + " / " +
+                                     std::to_string(n) + " -";
+            EXPECT_TRUE(gedruckt(d, f.titel[static_cast<std::size_t>(i - 1)], i)) << i;
+            EXPECT_TRUE(gedruckt(d, fuss, i)) << fuss;
+            EXPECT_TRUE(gedruckt(d, "VELM", i)) << i;
+        }
+        // Every text stays on the sheet, between the margins of the 200 mm and above the foot.
+        for (const auto& e : d.von_art(Art::Print)) {
+            EXPECT_LE(e.y1, 261) << e.text;
+            EXPECT_GE(e.x1, 0) << e.text;
+            EXPECT_LE(e.x1, 200) << e.text;
+        }
     }
-    // Every text stays on the sheet, between the margins of the 200 mm and above the foot.
-    for (const auto& e : d.von_art(Art::Print)) {
-        EXPECT_LE(e.y1, 261) << e.text;
-        EXPECT_GE(e.x1, 0) << e.text;
-        EXPECT_LE(e.x1, 200) << e.text;
-    }
-}
-
-TEST(Ausdrucken, TheDataSheetAloneIsTwoPagesOfTwo) {
-    TempOrdner ordner;
-    Druckprojekt dp(ordner, "e");
-    RecordingPrinter d;
-    Ausdrucken(d, *dp.p, *dp.e, nur({1}), '.', "1.1.2026");
-    EXPECT_EQ(d.von_art(Art::NewPage).size(), 1u);
-    EXPECT_TRUE(gedruckt(d, "Data sheet (1):", 1));
-    EXPECT_TRUE(gedruckt(d, "Data sheet (2):", 2));
-    EXPECT_TRUE(gedruckt(d, "- Page 1 / 2 -", 1));
-    EXPECT_TRUE(gedruckt(d, "- Page 2 / 2 -", 2));
 }
 
 TEST(Ausdrucken, HeatRecoveryFollowsTheOverheatingLimitOutsideTheVentilationBlock) {
@@ -167,23 +169,6 @@ TEST(Ausdrucken, HeatRecoveryFollowsTheOverheatingLimitOutsideTheVentilationBloc
     // The limit's value stands between them.
     EXPECT_EQ(wo("Wärmerückgewinnung:"), wo("Überwärmung ab:") + 2);
     EXPECT_EQ(d.prints("Wärmerückgewinnung:").at(0).x1, d.prints("Überwärmung ab:").at(0).x1);
-}
-
-TEST(Ausdrucken, LaterOptionsAloneAreNumberedFromOne) {
-    TempOrdner ordner;
-    Druckprojekt dp(ordner, "d");
-    RecordingPrinter d;
-    Ausdrucken(d, *dp.p, *dp.e, nur({5, 3}), ',', "1.1.2026");
-    EXPECT_TRUE(gedruckt(d, "Ausgabe: Wärmebilanz", 1));
-    EXPECT_TRUE(gedruckt(d, "- Seite 1 / 2 -", 1));
-    EXPECT_TRUE(gedruckt(d, "Ausgabe: Fensterbilanz", 2));
-    EXPECT_TRUE(gedruckt(d, "- Seite 2 / 2 -", 2));
-
-    // Nothing ticked: no page, but the document is ended.
-    RecordingPrinter leer;
-    Ausdrucken(leer, *dp.p, *dp.e, nur({}), ',', "1.1.2026");
-    ASSERT_EQ(leer.log().size(), 1u);
-    EXPECT_EQ(leer.log()[0].art, Art::EndDoc);
 }
 
 TEST(Datenblatt, ValuesStandAtX120WithTheDecimalMarkAndTheListTexts) {
