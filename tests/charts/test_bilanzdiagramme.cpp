@@ -283,6 +283,8 @@ TEST(Heizbilanz, EverySegmentOfEveryMonthIsDrawnAlsoAtZeroHeight) {
     EXPECT_EQ(b[2].y1, 116);
     EXPECT_NEAR(b[3].y1, b[2].y2, 1e-9);
     EXPECT_NEAR(b[4].y1, b[3].y2, 1e-9);
+    const Monatswerte& J = p->Monat[1];
+    EXPECT_NEAR(b[4].y2, oben((J.Qh + J.Qi_genutzt + J.Qs_genutzt) / p->f_nutz, 5), 1e-4);
 }
 
 TEST(HeizFelder, SpecificValuesWithOneDecimalAbsoluteOnesWhole) {
@@ -299,30 +301,31 @@ TEST(Nutzungsgrad, UsableGainsWithTheUnusableRestOnTop) {
     auto p = diagrammprojekt(o, "d");
     Heizen h;
     NutzungsgradZeichnen(*p, h.f, einstellung("d"));
-    const auto hoehe = [](const RecordingSurface::Primitive& b) { return 116 - b.y2; };
+    // The largest month gains lie between 1 and 5 kWh/m²: step 1; the year's between 25 and
+    // 50: step 10.
+    einmal_gedruckt(h.NutzungsgradMonat, {" 5"});
+    einmal_gedruckt(h.NutzungsgradJahr, {" 50"});
     // July's solar bar: usable part yellow from the base, the rest dark yellow up to the whole.
     const auto b = h.NutzungsgradMonat.of_kind(Kind::FilledBox);
     ASSERT_EQ(b.size(), 48u);
     const Monatswerte& J = p->Monat[7];
     EXPECT_EQ(b[24].colour, T.solar);
-    EXPECT_EQ(b[24].y1, 116);
+    EXPECT_NEAR(b[24].y2, oben(J.Qs_genutzt / p->f_nutz, 1), 1e-4);
     EXPECT_EQ(b[25].colour, T.solar_gesamt);
     EXPECT_NEAR(b[25].y1, b[24].y2, 1e-9);
-    EXPECT_NEAR(hoehe(b[24]) / hoehe(b[25]), J.Qs_genutzt / J.Qs_brutto, 1e-4);
+    EXPECT_NEAR(b[25].y2, oben(J.Qs_brutto / p->f_nutz, 1), 1e-4);
     EXPECT_EQ(b[26].colour, T.intern);
     EXPECT_EQ(b[27].colour, T.intern_gesamt);
-    // The largest month gains lie between 1 and 5 kWh/m², the year's between 25 and 50.
-    einmal_gedruckt(h.NutzungsgradMonat, {" 5"});
-    einmal_gedruckt(h.NutzungsgradJahr, {" 50"});
     // The year: sums of the months, solar and internal gains on one scale.
     double A = 0, B = 0;
     for (int m = 1; m <= 12; ++m) {
-        A += p->Monat[m].Qs_brutto;
-        B += p->Monat[m].Qi_brutto;
+        A += p->Monat[m].Qs_brutto / p->f_nutz;
+        B += p->Monat[m].Qi_brutto / p->f_nutz;
     }
     const auto j = h.NutzungsgradJahr.of_kind(Kind::FilledBox);
     ASSERT_EQ(j.size(), 4u);
-    EXPECT_NEAR(hoehe(j[1]) / hoehe(j[3]), A / B, 1e-4);
+    EXPECT_NEAR(j[1].y2, oben(A, 10), 1e-4);
+    EXPECT_NEAR(j[3].y2, oben(B, 10), 1e-4);
     EXPECT_EQ(j[0].x1, 35);
     EXPECT_EQ(j[2].x1, 60);
 }
