@@ -5,6 +5,8 @@
 #include "language/c_Sprache.h"
 #include "project/c_glob.h"
 
+#include <gtest/gtest.h>
+
 std::unique_ptr<Projekt> diagrammprojekt(const TempOrdner& ordner, const std::string& sprache) {
     auto p = neues_testprojekt(ordner);
     p->Sprache = sprache;
@@ -43,4 +45,10 @@ int pixel_in_spalte(const RecordingSurface& s, int x, int y_von, int y_bis, Rgb 
         n += s.pixel(x, y) == farbe ? 1 : 0;
     }
     return n;
+}
+
+void einmal_gedruckt(const RecordingSurface& s, std::initializer_list<std::string> texte) {
+    for (const std::string& t : texte) {
+        EXPECT_EQ(s.prints(t).size(), 1u) << '"' << t << '"';
+    }
 }

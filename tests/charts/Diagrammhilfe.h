@@ -9,6 +9,7 @@
 #include "charts/RecordingSurface.h"
 #include "tests/support/Testprojekt.h"
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -61,3 +62,6 @@ std::unique_ptr<Projekt> kuehlprojekt(const TempOrdner& ordner, const std::strin
 
 // The number of pixels of `farbe` in column x from row y_von to y_bis.
 int pixel_in_spalte(const RecordingSurface& s, int x, int y_von, int y_bis, Rgb farbe);
+
+// Expects each of `texte` printed exactly once on `s`.
+void einmal_gedruckt(const RecordingSurface& s, std::initializer_list<std::string> texte);

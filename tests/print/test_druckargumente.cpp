@@ -46,6 +46,7 @@ TEST(Druckargumente, AnythingElseIsRefusedWithAMessage) {
         {"haus.vel", "aus.pdf", "--seiten", "8"},
         {"haus.vel", "aus.pdf", "--seiten", "0"},
         {"haus.vel", "aus.pdf", "--seiten", "1,,2"},
+        {"haus.vel", "aus.pdf", "--seiten", "1,"},
         {"haus.vel", "aus.pdf", "--seiten", "12"},
         {"haus.vel", "aus.pdf", "--seiten", "2,2"},
         {"haus.vel", "aus.pdf", "--seiten", ""},

@@ -58,6 +58,21 @@ std::unique_ptr<Projekt> projekt_mit_monaten() {
     return p;
 }
 
+// All heat demand in January: the whole year's energy falls on it.
+std::unique_ptr<Projekt> heizung_im_januar() {
+    auto p = projekt_mit_monaten();
+    for (int m = 1; m <= MONATE; ++m) {
+        p->Monat[m].Qh = 0;
+    }
+    p->Monat[1].Qh = 1000;
+    p->qhs_sum = 10;
+    p->q_HE_Energietraeger = 12;
+    p->q_HE_Strom = 3;
+    p->q_PE_Energietraeger = 13;
+    p->q_PE_Strom = 9;
+    return p;
+}
+
 } // namespace
 
 TEST(Diagramm_Jahresbilanz, BarsOnTheScaleWithTheSupplyStackedFromInternalGainsUp) {
@@ -79,9 +94,6 @@ TEST(Diagramm_Jahresbilanz, BarsOnTheScaleWithTheSupplyStackedFromInternalGainsU
     erwarte(b[2], DRUCK_INTERN, 162, 205, 171, 197);
     erwarte(b[3], DRUCK_SOLAR, 162, 197, 171, 181);
     erwarte(b[4], DRUCK_HEIZEN, 162, 181, 171, 157);
-    EXPECT_EQ(DRUCK_TRANSMISSION, (Rgb{0, 255, 255}));
-    EXPECT_EQ(DRUCK_LUEFTUNG, (Rgb{255, 0, 255}));
-    EXPECT_EQ(DRUCK_INTERN, (Rgb{0, 0, 255}));
 
     // The box first, then the axes at x 150 from 205 to 145 and to 172; the top number "75"
     // right-aligned 1.5 mm left of the axis at 145 - 1.5.
@@ -193,17 +205,7 @@ TEST(Diagramm_Fenster, GainAndLossBarsOfEachFacadeInYellowAndCyan) {
 }
 
 TEST(Diagramm_Heizenergie, EndAndPrimaryEnergyWithElectricityOnTop) {
-    auto p = projekt_mit_monaten();
-    for (int m = 1; m <= MONATE; ++m) {
-        p->Monat[m].Qh = 0;
-    }
-    // All heat demand in January: the whole year's energy falls on it.
-    p->Monat[1].Qh = 1000;
-    p->qhs_sum = 10;
-    p->q_HE_Energietraeger = 12;
-    p->q_HE_Strom = 3;
-    p->q_PE_Energietraeger = 13;
-    p->q_PE_Strom = 9;
+    auto p = heizung_im_januar();
     p->Energie.Traegername = "Heizöl";
     RecordingPrinter d;
     Diagramm_Heizenergie(d, *p);
@@ -220,18 +222,10 @@ TEST(Diagramm_Heizenergie, EndAndPrimaryEnergyWithElectricityOnTop) {
 // electricity as the carrier, leave no bar: nothing is drawn at the axis or as a flat box on a
 // bar's top.
 TEST(Diagramm_Heizenergie, OnlyValuesAboveZeroGiveABar) {
-    auto p = projekt_mit_monaten();
-    for (int m = 1; m <= MONATE; ++m) {
-        p->Monat[m].Qh = 0;
-    }
-    p->Monat[1].Qh = 1000;
+    auto p = heizung_im_januar();
     p->Monat[6].Qh = -0.01f;
     p->Monat[7].Qh = 0.01f;
-    p->qhs_sum = 10;
-    p->q_HE_Energietraeger = 12;
-    p->q_HE_Strom = 3;
     p->q_PE_Energietraeger = 24;
-    p->q_PE_Strom = 9;
     for (const char* traeger : {"Heizöl", "Strom"}) {
         p->Energie.Traegername = traeger;
         RecordingPrinter d;

@@ -5,83 +5,68 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 using Liste = std::vector<std::string>;
 
-// At size 10 every character of the recording printer is 2 mm wide.
-Liste umbrechen(std::string text, double breite, std::string* rest = nullptr) {
-    RecordingPrinter d;
-    d.FontSize = 10;
-    Liste liste{"stale entry"};
-    ZeilenUmbruch(d, text, breite, liste);
-    if (rest != nullptr) {
-        *rest = text;
+TEST(ZeilenUmbruch, BreaksAfterBlanksAndHyphensAndJoinsWhatFitsBelowTheColumn) {
+    // At size 10 every character of the recording printer is 2 mm wide, at size 5 1 mm.
+    const struct {
+        double groesse;
+        const char* text;
+        double breite;
+        Liste zeilen;
+        const char* rest; // what the caller's text holds afterwards
+    } faelle[] = {
+        // 20 characters, 40 mm: below 41 mm it is not broken, not even healed at its hyphen,
+        // and stays with the caller.
+        {10, "Wärme- rückgewinnung", 41, {"Wärme- rückgewinnung"}, "Wärme- rückgewinnung"},
+        // Exactly as wide as the column is not below it. "Gas-" and "Brennwert " join, as the
+        // hyphen has no blank after it; with "Speicher" the first line would be 52 mm.
+        {10, "Gas-Brennwert mit Speicher", 52, {"Gas-Brennwert mit ", "Speicher"}, ""},
+        // "Wärme- " + "rückgewinnung " is 42 mm: below 45 mm the word is whole again, below
+        // 42 mm the hyphen with its blank stays at the line end.
+        {10, "Wärme- rückgewinnung und Lüftung", 45, {"Wärmerückgewinnung ", "und Lüftung"}, ""},
+        {10,
+         "Wärme- rückgewinnung und Lüftung",
+         42,
+         {"Wärme- ", "rückgewinnung und ", "Lüftung"},
+         ""},
+        // Only an entry that begins with "sowie" or "und" keeps "- " when it takes in the next
+        // piece.
+        {10,
+         "mit Heiz- kessel xxxxxxxxxxxxxxxxxxxx",
+         40,
+         {"mit Heizkessel ", "xxxxxxxxxxxxxxxxxxxx"},
+         ""},
+        {10,
+         "und Heiz- kessel xxxxxxxxxxxxxxxxxxxx",
+         40,
+         {"und Heiz- kessel ", "xxxxxxxxxxxxxxxxxxxx"},
+         ""},
+        {10,
+         "sowie Heiz- kessel xxxxxxxxxxxxxxxxxxxx",
+         44,
+         {"sowie Heiz- kessel ", "xxxxxxxxxxxxxxxxxxxx"},
+         ""},
+        // A word without blank stays whole and runs past the column, on a line of its own.
+        {10, "Donaudampfschifffahrtsgesellschaft", 20, {"Donaudampfschifffahrtsgesellschaft"}, ""},
+        {10,
+         "ab Donaudampfschifffahrtsgesellschaft an",
+         20,
+         {"ab ", "Donaudampfschifffahrtsgesellschaft ", "an"},
+         ""},
+        // The widths follow the printer's font: 14 mm stay below 15 at size 5.
+        {5, "eins zwei drei", 15, {"eins zwei drei"}, "eins zwei drei"},
+        {10, "eins zwei drei", 15, {"eins ", "zwei ", "drei"}, ""},
+    };
+    for (const auto& f : faelle) {
+        RecordingPrinter d;
+        d.FontSize = f.groesse;
+        std::string text = f.text;
+        Liste liste{"stale entry"};
+        ZeilenUmbruch(d, text, f.breite, liste);
+        EXPECT_EQ(liste, f.zeilen) << f.text << " at " << f.breite << " mm, size " << f.groesse;
+        EXPECT_EQ(text, f.rest) << f.text << " at " << f.breite << " mm";
     }
-    return liste;
-}
-
-} // namespace
-
-TEST(ZeilenUmbruch, ANarrowTextIsTheOneEntryAndStaysWithTheCaller) {
-    std::string rest;
-    // 20 characters, 40 mm: below 41 mm it is not broken, not even healed at its hyphen.
-    EXPECT_EQ(umbrechen("Wärme- rückgewinnung", 41, &rest), Liste{"Wärme- rückgewinnung"});
-    EXPECT_EQ(rest, "Wärme- rückgewinnung");
-}
-
-TEST(ZeilenUmbruch, AWideTextIsConsumedAndBrokenAfterBlanksAndHyphens) {
-    std::string rest;
-    // Exactly as wide as the column is not below it: the text is broken.
-    const Liste l = umbrechen("Gas-Brennwert mit Speicher", 52, &rest);
-    EXPECT_EQ(rest, "");
-    // "Gas-" and "Brennwert " join, as the hyphen has no blank after it; with "Speicher" the
-    // first line would be 52 mm, not below the column.
-    EXPECT_EQ(l, (Liste{"Gas-Brennwert mit ", "Speicher"}));
-}
-
-TEST(ZeilenUmbruch, HyphenAndBlankAreDroppedOnlyWhenTheJoinFits) {
-    // The pair "Wärme- " + "rückgewinnung " is 21 characters, 42 mm: it fits below 45 mm and the
-    // word is whole again.
-    EXPECT_EQ(umbrechen("Wärme- rückgewinnung und Lüftung", 45),
-              (Liste{"Wärmerückgewinnung ", "und Lüftung"}));
-    // Below 42 mm the join does not happen and the hyphen with its blank stays at the line end.
-    EXPECT_EQ(umbrechen("Wärme- rückgewinnung und Lüftung", 42),
-              (Liste{"Wärme- ", "rückgewinnung und ", "Lüftung"}));
-}
-
-TEST(ZeilenUmbruch, AnEntryBeginningWithSowieOrUndKeepsItsHyphen) {
-    // The same words behind "mit", "und" and "sowie": only the entry that begins with one of the
-    // two joining words keeps "- " when it takes in the next piece.
-    EXPECT_EQ(umbrechen("mit Heiz- kessel xxxxxxxxxxxxxxxxxxxx", 40),
-              (Liste{"mit Heizkessel ", "xxxxxxxxxxxxxxxxxxxx"}));
-    EXPECT_EQ(umbrechen("und Heiz- kessel xxxxxxxxxxxxxxxxxxxx", 40),
-              (Liste{"und Heiz- kessel ", "xxxxxxxxxxxxxxxxxxxx"}));
-    EXPECT_EQ(umbrechen("sowie Heiz- kessel xxxxxxxxxxxxxxxxxxxx", 44),
-              (Liste{"sowie Heiz- kessel ", "xxxxxxxxxxxxxxxxxxxx"}));
-}
-
-TEST(ZeilenUmbruch, AWordWithoutBlankStaysWholeAndRunsPastTheColumn) {
-    std::string rest;
-    EXPECT_EQ(umbrechen("Donaudampfschifffahrtsgesellschaft", 20, &rest),
-              Liste{"Donaudampfschifffahrtsgesellschaft"});
-    EXPECT_EQ(rest, "");
-    // Between two short words it has a line of its own.
-    EXPECT_EQ(umbrechen("ab Donaudampfschifffahrtsgesellschaft an", 20),
-              (Liste{"ab ", "Donaudampfschifffahrtsgesellschaft ", "an"}));
-}
-
-TEST(ZeilenUmbruch, WidthsFollowThePrintersFont) {
-    RecordingPrinter d;
-    Liste liste;
-    std::string text = "eins zwei drei";
-    // At size 5 a character is 1 mm: 14 mm stay below 15.
-    d.FontSize = 5;
-    ZeilenUmbruch(d, text, 15, liste);
-    EXPECT_EQ(liste, Liste{"eins zwei drei"});
-    d.FontSize = 10;
-    ZeilenUmbruch(d, text, 15, liste);
-    EXPECT_EQ(liste, (Liste{"eins ", "zwei ", "drei"}));
 }
 
 TEST(DruckeWert, RightAlignedOnTheAnchorByItsPatternOnTheSameRow) {

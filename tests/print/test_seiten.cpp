@@ -61,45 +61,37 @@ TEST(Seitenkopf, LogoRulesFootAndTitleStandAtTheirPlaces) {
     RecordingPrinter d;
     Seitenkopf(d, *dp.p, "Ausgabe: Wärmebilanz", 3, 8, "5.3.2026");
 
-    // "VELM" italic and "aris" upright, 8 characters at size 20 (4 mm each) centred on 200 mm.
-    const auto velm = d.prints("VELM").at(0);
-    const auto aris = d.prints("aris").at(0);
-    EXPECT_DOUBLE_EQ(velm.x1, 84);
-    EXPECT_DOUBLE_EQ(velm.y1, 20);
-    EXPECT_DOUBLE_EQ(aris.x1, 100);
-    EXPECT_DOUBLE_EQ(aris.y1, 20);
-    EXPECT_TRUE(velm.italic && velm.bold && velm.underline);
-    EXPECT_TRUE(!aris.italic && aris.bold && aris.underline);
-    EXPECT_DOUBLE_EQ(velm.size, 20);
-
+    // "VELM" and "aris", 8 characters at size 20 (4 mm each), centred on 200 mm; the foot at
+    // y 261: the file without its folder, the page in the middle, the date ending at x 175; the
+    // title at size 16 (3.2 mm a character), centred.
+    const struct {
+        const char* text;
+        double x, y, size;
+        bool italic, bold, underline;
+    } texte[] = {
+        {"VELM", 84, 20, 20, true, true, true},
+        {"aris", 100, 20, 20, false, true, true},
+        {"Datei: haus.vel ", 25, 261, 10, true, false, false},
+        {"- Seite 3 / 8 -", (200 - 15 * 2) / 2.0, 261, 10, true, false, false},
+        {"5.3.2026", 175 - 8 * 2, 261, 10, true, false, false},
+        {"Ausgabe: Wärmebilanz", (200 - 20 * 3.2) / 2, 40, 16, false, false, false},
+    };
+    for (const auto& t : texte) {
+        const auto e = d.prints(t.text);
+        ASSERT_EQ(e.size(), 1u) << t.text;
+        EXPECT_DOUBLE_EQ(e[0].x1, t.x) << t.text;
+        EXPECT_DOUBLE_EQ(e[0].y1, t.y) << t.text;
+        EXPECT_DOUBLE_EQ(e[0].size, t.size) << t.text;
+        EXPECT_EQ(e[0].italic, t.italic) << t.text;
+        EXPECT_EQ(e[0].bold, t.bold) << t.text;
+        EXPECT_EQ(e[0].underline, t.underline) << t.text;
+    }
     const auto linien = d.von_art(Art::Line);
     ASSERT_EQ(linien.size(), 2u);
     EXPECT_EQ((std::array<double, 4>{linien[0].x1, linien[0].y1, linien[0].x2, linien[0].y2}),
               (std::array<double, 4>{25, 35, 175, 35}));
     EXPECT_EQ((std::array<double, 4>{linien[1].x1, linien[1].y1, linien[1].x2, linien[1].y2}),
               (std::array<double, 4>{25, 260, 175, 260}));
-
-    // The foot in italic at y 261: the file without its folder, the page in the middle, the
-    // date ending at x 175.
-    const auto datei = d.prints("Datei: haus.vel ").at(0);
-    EXPECT_DOUBLE_EQ(datei.x1, 25);
-    const auto seite = d.prints("- Seite 3 / 8 -").at(0);
-    EXPECT_DOUBLE_EQ(seite.x1, (200 - 15 * 2) / 2.0);
-    const auto datum = d.prints("5.3.2026").at(0);
-    EXPECT_DOUBLE_EQ(datum.x1, 175 - 8 * 2);
-    for (const auto& e : {datei, seite, datum}) {
-        EXPECT_DOUBLE_EQ(e.y1, 261);
-        EXPECT_TRUE(e.italic);
-        EXPECT_FALSE(e.bold || e.underline);
-        EXPECT_DOUBLE_EQ(e.size, 10);
-    }
-
-    // The title at size 16 (3.2 mm a character), upright, centred at y 40.
-    const auto titel = d.prints("Ausgabe: Wärmebilanz").at(0);
-    EXPECT_DOUBLE_EQ(titel.y1, 40);
-    EXPECT_DOUBLE_EQ(titel.x1, (200 - 20 * 3.2) / 2);
-    EXPECT_DOUBLE_EQ(titel.size, 16);
-    EXPECT_FALSE(titel.italic);
 }
 
 TEST(Seitenkopf, EnglishFootNamesFileAndPage) {
@@ -112,46 +104,48 @@ TEST(Seitenkopf, EnglishFootNamesFileAndPage) {
     EXPECT_EQ(d.prints("- Page 1 / 2 -").size(), 1u);
 }
 
-TEST(Ausdrucken, AllOptionsGiveEightNumberedPagesInTheirOrder) {
+TEST(Ausdrucken, TheTickedOptionsGiveTheirPagesNumberedFromOneInOrder) {
+    const struct {
+        const char* sprache;
+        Druckauswahl auswahl;
+        std::vector<std::string> titel;
+    } faelle[] = {
+        {"d",
+         ALLE,
+         {"Datenblatt (Teil 1):", "Datenblatt (Teil 2):", "Ausgabe: Heiz- und Kühlstunden",
+          "Ausgabe: Wärmebilanz", "Ausgabe: Kühlbilanz", "Ausgabe: Fensterbilanz",
+          "Primär- und Endenergiebedarf Heizung", "Primär- und Endenergiebedarf Kühlung"}},
+        {"e", nur({1}), {"Data sheet (1):", "Data sheet (2):"}},
+        {"d", nur({5, 3}), {"Ausgabe: Wärmebilanz", "Ausgabe: Fensterbilanz"}},
+        // Nothing ticked: no page, but the document is ended.
+        {"d", nur({}), {}},
+    };
     TempOrdner ordner;
-    Druckprojekt dp(ordner, "d");
-    RecordingPrinter d;
-    Ausdrucken(d, *dp.p, *dp.e, ALLE, ',', "1.1.2026");
-
-    EXPECT_EQ(d.von_art(Art::NewPage).size(), 7u);
-    ASSERT_EQ(d.von_art(Art::EndDoc).size(), 1u);
-    EXPECT_EQ(d.log().back().art, Art::EndDoc);
-    const char* titel[] = {"Datenblatt (Teil 1):",
-                           "Datenblatt (Teil 2):",
-                           "Ausgabe: Heiz- und Kühlstunden",
-                           "Ausgabe: Wärmebilanz",
-                           "Ausgabe: Kühlbilanz",
-                           "Ausgabe: Fensterbilanz",
-                           "Primär- und Endenergiebedarf Heizung",
-                           "Primär- und Endenergiebedarf Kühlung"};
-    for (int n = 1; n <= 8; ++n) {
-        EXPECT_TRUE(gedruckt(d, "- Seite " + std::to_string(n) + " / 8 -", n)) << n;
-        EXPECT_TRUE(gedruckt(d, titel[n - 1], n)) << n;
-        EXPECT_TRUE(gedruckt(d, "VELM", n)) << n;
+    for (const auto& f : faelle) {
+        const bool de = f.sprache == std::string("d");
+        const int n = static_cast<int>(f.titel.size());
+        SCOPED_TRACE(std::string(f.sprache) + ", " + std::to_string(n) + " pages");
+        Druckprojekt dp(ordner, f.sprache);
+        RecordingPrinter d;
+        Ausdrucken(d, *dp.p, *dp.e, f.auswahl, de ? ',' : '.', "1.1.2026");
+        EXPECT_EQ(static_cast<int>(d.von_art(Art::NewPage).size()), std::max(n - 1, 0));
+        EXPECT_EQ(d.von_art(Art::EndDoc).size(), 1u);
+        EXPECT_EQ(d.log().back().art, Art::EndDoc);
+        EXPECT_EQ(d.log().size() == 1, n == 0);
+        for (int i = 1; i <= n; ++i) {
+            const std::string fuss = (de ? "- Seite " : "- Page ") + std::to_string(i) + " / " +
+                                     std::to_string(n) + " -";
+            EXPECT_TRUE(gedruckt(d, f.titel[static_cast<std::size_t>(i - 1)], i)) << i;
+            EXPECT_TRUE(gedruckt(d, fuss, i)) << fuss;
+            EXPECT_TRUE(gedruckt(d, "VELM", i)) << i;
+        }
+        // Every text stays on the sheet, between the margins of the 200 mm and above the foot.
+        for (const auto& e : d.von_art(Art::Print)) {
+            EXPECT_LE(e.y1, 261) << e.text;
+            EXPECT_GE(e.x1, 0) << e.text;
+            EXPECT_LE(e.x1, 200) << e.text;
+        }
     }
-    // Every text stays on the sheet, between the margins of the 200 mm and above the foot.
-    for (const auto& e : d.von_art(Art::Print)) {
-        EXPECT_LE(e.y1, 261) << e.text;
-        EXPECT_GE(e.x1, 0) << e.text;
-        EXPECT_LE(e.x1, 200) << e.text;
-    }
-}
-
-TEST(Ausdrucken, TheDataSheetAloneIsTwoPagesOfTwo) {
-    TempOrdner ordner;
-    Druckprojekt dp(ordner, "e");
-    RecordingPrinter d;
-    Ausdrucken(d, *dp.p, *dp.e, nur({1}), '.', "1.1.2026");
-    EXPECT_EQ(d.von_art(Art::NewPage).size(), 1u);
-    EXPECT_TRUE(gedruckt(d, "Data sheet (1):", 1));
-    EXPECT_TRUE(gedruckt(d, "Data sheet (2):", 2));
-    EXPECT_TRUE(gedruckt(d, "- Page 1 / 2 -", 1));
-    EXPECT_TRUE(gedruckt(d, "- Page 2 / 2 -", 2));
 }
 
 TEST(Ausdrucken, HeatRecoveryFollowsTheOverheatingLimitOutsideTheVentilationBlock) {
@@ -167,23 +161,6 @@ TEST(Ausdrucken, HeatRecoveryFollowsTheOverheatingLimitOutsideTheVentilationBloc
     // The limit's value stands between them.
     EXPECT_EQ(wo("Wärmerückgewinnung:"), wo("Überwärmung ab:") + 2);
     EXPECT_EQ(d.prints("Wärmerückgewinnung:").at(0).x1, d.prints("Überwärmung ab:").at(0).x1);
-}
-
-TEST(Ausdrucken, LaterOptionsAloneAreNumberedFromOne) {
-    TempOrdner ordner;
-    Druckprojekt dp(ordner, "d");
-    RecordingPrinter d;
-    Ausdrucken(d, *dp.p, *dp.e, nur({5, 3}), ',', "1.1.2026");
-    EXPECT_TRUE(gedruckt(d, "Ausgabe: Wärmebilanz", 1));
-    EXPECT_TRUE(gedruckt(d, "- Seite 1 / 2 -", 1));
-    EXPECT_TRUE(gedruckt(d, "Ausgabe: Fensterbilanz", 2));
-    EXPECT_TRUE(gedruckt(d, "- Seite 2 / 2 -", 2));
-
-    // Nothing ticked: no page, but the document is ended.
-    RecordingPrinter leer;
-    Ausdrucken(leer, *dp.p, *dp.e, nur({}), ',', "1.1.2026");
-    ASSERT_EQ(leer.log().size(), 1u);
-    EXPECT_EQ(leer.log()[0].art, Art::EndDoc);
 }
 
 TEST(Datenblatt, ValuesStandAtX120WithTheDecimalMarkAndTheListTexts) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The report's Rich Text: golden texts of all pages in both languages, the page frame, single
-// pages, the deliberate wording and the saved ANSI file.
+// The report's Rich Text: golden texts of all pages in both languages, single pages and the
+// saved ANSI file.
 //
 // After an intended change of the report, regenerate and review the golden files:
 //   VELMARIS_GOLDEN_UPDATE=1 build/test/tests/test_report
@@ -13,14 +13,6 @@
 namespace {
 
 const std::string ANFANG = "{\\rtf1\\ansi{\\fonttbl{\\f0\\froman Times New Roman;}}";
-
-std::size_t zaehlen(const std::string& text, const std::string& teil) {
-    std::size_t n = 0;
-    for (std::size_t i = text.find(teil); i != std::string::npos; i = text.find(teil, i + 1)) {
-        ++n;
-    }
-    return n;
-}
 
 // The pages of a whole report: the text between the document start and its end, cut at the
 // page breaks.
@@ -59,19 +51,6 @@ TEST_P(Report, AllPagesMatchTheGoldenText) {
     }
 }
 
-TEST_P(Report, WholeReportHasSixBreaksAndOneEnd) {
-    Reportprogramm r(GetParam());
-    const std::string ganz = r.report(0);
-    EXPECT_EQ(ganz.rfind(ANFANG, 0), 0u);
-    EXPECT_EQ(zaehlen(ganz, "\\page"), 6u);
-    EXPECT_EQ(ganz.back(), '}');
-    EXPECT_EQ(ganz.substr(ganz.size() - 6), "\\par }");
-    // Braces balance: the one end closes the document start.
-    EXPECT_EQ(zaehlen(ganz, "{"), zaehlen(ganz, "}"));
-    EXPECT_EQ(zaehlen(ganz, "\\qc\\plain\\b\\i\\fs60 VELM\\plain\\b\\fs60 aris \\plain \\par "),
-              7u);
-}
-
 TEST_P(Report, EachSinglePageIsItsPartOfTheWholeWithoutBreak) {
     Reportprogramm r(GetParam());
     const std::vector<std::string> teile = seiten(r.report(0));
@@ -79,20 +58,8 @@ TEST_P(Report, EachSinglePageIsItsPartOfTheWholeWithoutBreak) {
     for (int s = 1; s <= 7; ++s) {
         const std::string seite = r.report(s);
         EXPECT_EQ(seite, ANFANG + teile[static_cast<std::size_t>(s - 1)] + "}") << "page " << s;
-        EXPECT_EQ(zaehlen(seite, "\\page"), 0u);
+        EXPECT_EQ(seite.find("\\page"), std::string::npos);
     }
-}
-
-TEST_P(Report, DeliberateWordingStandsInBothLanguages) {
-    Reportprogramm r(GetParam());
-    const std::string seite4 = r.report(4);
-    EXPECT_EQ(zaehlen(seite4, " \\tab Tramsmis- \\tab "), GetParam()[0] == 'd' ? 2u : 0u);
-    EXPECT_EQ(zaehlen(seite4, "\\tab  \\tab "), 2u) << "the factor column of the year rows";
-    // The heat bridge row keeps its German label in English too.
-    EXPECT_NE(r.report(1).find("\\par      Wärmebrücken: \\tab "), std::string::npos);
-    // Page 3 ends with the heating days, " Tage" in both languages.
-    const std::string seite3 = r.report(3);
-    EXPECT_EQ(seite3.substr(seite3.size() - 11), " Tage\\par }");
 }
 
 TEST(ReportDatei, SavedFileIsAnsiAndReadsAsTheText) {

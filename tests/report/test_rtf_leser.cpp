@@ -65,25 +65,15 @@ TEST(RtfLeser, BrokenTextGivesAMessageAndKeepsWhatWasRead) {
     EXPECT_EQ(rtf_lesen("{\\rtf1 \xe4\xfc}").absaetze.at(0).text(), "äü");
 }
 
-TEST(RtfLeser, ReadsTheWholeReportInSevenPages) {
+TEST(RtfLeser, ReadsTheWholeReportInSevenPagesWithoutAControlWordInTheText) {
     for (const char* sprache : {"d", "e"}) {
-        Reportprogramm r(sprache);
-        const RtfDokument d = rtf_lesen(r.report(0));
+        const RtfDokument d = rtf_lesen(Reportprogramm(sprache).report(0));
         ASSERT_TRUE(d.fehler.empty()) << d.fehler;
         int seiten = 1;
-        int koepfe = 0;
         for (const RtfAbsatz& a : d.absaetze) {
             seiten += a.neue_seite ? 1 : 0;
-            if (a.text() == "VELMaris ") {
-                ++koepfe;
-                EXPECT_EQ(a.ausrichtung, A::Mitte);
-            }
-        }
-        EXPECT_EQ(seiten, 7);
-        EXPECT_EQ(koepfe, 7);
-        // No control word leaks into the text.
-        for (const RtfAbsatz& a : d.absaetze) {
             EXPECT_EQ(a.text().find('\\'), std::string::npos) << a.text();
         }
+        EXPECT_EQ(seiten, 7) << sprache;
     }
 }

@@ -8,51 +8,40 @@
 
 namespace {
 
-const Textmass ZEHN_JE_ZEICHEN = [](const std::string& t) {
-    return 10.0 * static_cast<double>(t.size());
-};
-
-std::vector<std::string> wrap(const std::string& text, double breite) {
-    return schreibeZeile(text, breite, ZEHN_JE_ZEICHEN);
-}
-
 using Liste = std::vector<std::string>;
 
-} // namespace
-
-TEST(SchreibeZeile, ShortTextIsOneItemAndFullWidthIsNotNarrower) {
-    EXPECT_EQ(wrap("kurz", 100), Liste{"kurz"});
-    EXPECT_EQ(wrap("abcd efgh", 100), Liste{"abcd efgh"});
-    // Exactly as wide as the width is not narrower: cut, and not joined again.
-    EXPECT_EQ(wrap("abcd efghi", 100), (Liste{"abcd ", "efghi"}));
-}
-
-TEST(SchreibeZeile, CutsAfterBlanksAndHyphensAndJoinsWhatFits) {
-    EXPECT_EQ(wrap("eins zwei drei vier", 110), (Liste{"eins zwei ", "drei vier"}));
-    EXPECT_EQ(wrap("eins zwei drei vier", 100), (Liste{"eins ", "zwei ", "drei vier"}));
-    EXPECT_EQ(wrap("Nord-Sued-Ost-West", 110), (Liste{"Nord-Sued-", "Ost-West"}));
-}
-
-TEST(SchreibeZeile, HealsAWordSplitAtHyphenAndBlank) {
-    EXPECT_EQ(wrap("Heiz- waerme Kuehlung", 150), (Liste{"Heizwaerme ", "Kuehlung"}));
-    EXPECT_EQ(wrap("Wa- me xxxxxxxxxx", 100), (Liste{"Wame ", "xxxxxxxxxx"}));
-    // Halves that do not meet on one line keep their hyphen.
-    EXPECT_EQ(wrap("Auslegungs- proportionalbereich", 150),
-              (Liste{"Auslegungs- ", "proportionalbereich"}));
-}
-
-TEST(SchreibeZeile, SowieAndUndKeepTheHyphen) {
-    EXPECT_EQ(wrap("Heiz- sowie Kuehlung", 150), (Liste{"Heiz- sowie ", "Kuehlung"}));
-    EXPECT_EQ(wrap("Nord- und Sued xxxxxxxx", 120), (Liste{"Nord- und ", "Sued ", "xxxxxxxx"}));
-    // Only the beginning of the next piece counts.
-    EXPECT_EQ(wrap("Heiz- Pundit xxxxxxxxx", 150), (Liste{"HeizPundit ", "xxxxxxxxx"}));
-}
-
-TEST(SchreibeZeile, OverLongWordStaysWholeOnItsOwnLine) {
-    const Liste l = wrap("ab Donaudampfschifffahrt cd", 100);
-    EXPECT_EQ(l, (Liste{"ab ", "Donaudampfschifffahrt ", "cd"}));
-    EXPECT_GT(ZEHN_JE_ZEICHEN(l[1]), 100);
-    EXPECT_EQ(wrap("Donaudampfschifffahrt", 100), Liste{"Donaudampfschifffahrt"});
+TEST(SchreibeZeile, WrapsAtBlanksAndHyphensAndHealsWhatFits) {
+    const Textmass zehn_je_zeichen = [](const std::string& t) {
+        return 10.0 * static_cast<double>(t.size());
+    };
+    const struct {
+        const char* text;
+        double breite;
+        Liste zeilen;
+    } faelle[] = {
+        {"kurz", 100, {"kurz"}},
+        {"abcd efgh", 100, {"abcd efgh"}},
+        // Exactly as wide as the width is not narrower: cut, and not joined again.
+        {"abcd efghi", 100, {"abcd ", "efghi"}},
+        {"eins zwei drei vier", 110, {"eins zwei ", "drei vier"}},
+        {"eins zwei drei vier", 100, {"eins ", "zwei ", "drei vier"}},
+        {"Nord-Sued-Ost-West", 110, {"Nord-Sued-", "Ost-West"}},
+        {"Heiz- waerme Kuehlung", 150, {"Heizwaerme ", "Kuehlung"}},
+        {"Wa- me xxxxxxxxxx", 100, {"Wame ", "xxxxxxxxxx"}},
+        // Halves that do not meet on one line keep their hyphen.
+        {"Auslegungs- proportionalbereich", 150, {"Auslegungs- ", "proportionalbereich"}},
+        // "sowie" and "und" at the beginning of the next piece keep the hyphen, nothing else.
+        {"Heiz- sowie Kuehlung", 150, {"Heiz- sowie ", "Kuehlung"}},
+        {"Nord- und Sued xxxxxxxx", 120, {"Nord- und ", "Sued ", "xxxxxxxx"}},
+        {"Heiz- Pundit xxxxxxxxx", 150, {"HeizPundit ", "xxxxxxxxx"}},
+        // An over-long word stays whole on its own line.
+        {"ab Donaudampfschifffahrt cd", 100, {"ab ", "Donaudampfschifffahrt ", "cd"}},
+        {"Donaudampfschifffahrt", 100, {"Donaudampfschifffahrt"}},
+    };
+    for (const auto& f : faelle) {
+        EXPECT_EQ(schreibeZeile(f.text, f.breite, zehn_je_zeichen), f.zeilen)
+            << f.text << " at " << f.breite;
+    }
 }
 
 TEST(SchreibeZeile, ReportFontWrapsTheHeatBridgeTextUnderTheWidth) {
@@ -69,3 +58,5 @@ TEST(SchreibeZeile, ReportFontWrapsTheHeatBridgeTextUnderTheWidth) {
     }
     EXPECT_EQ(ganz, text);
 }
+
+} // namespace
