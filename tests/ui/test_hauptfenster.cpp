@@ -1,13 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The desktop program driven through its real widgets on the offscreen platform.
+// The desktop program driven through its real widgets on the offscreen platform: every bound
+// widget shows its model and passes the user's input to it; the main window's commands, the
+// start, the help and the fault state.
 #include "language/Beschriftungen.h"
+#include "planes/CheckField.h"
 #include "planes/Eingabeflaechen.h"
+#include "planes/ListField.h"
+#include "planes/OptionGroup.h"
+#include "planes/ScrollField.h"
+#include "project/Label.h"
 #include "project/c_glob.h"
 #include "tests/project/SkriptDialogs.h"
 #include "tests/support/Testprojekt.h"
 #include "tests/ui/Uitesthilfe.h"
+#include "ui/Bindungen.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
+#include "ui/Massstab.h"
 #include "ui/StartFenster.h"
 
 #include <QAbstractButton>
@@ -16,7 +25,6 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -38,6 +46,73 @@ class TestHauptfenster : public QObject {
     // The language the window of the first start chooses; "" closes it without a choice.
     std::string wahl;
     int gewaehlt = 0;
+    // Every binding of a widget to its model, as the program made them.
+    std::vector<Bindungen::Bindung> gebunden;
+
+    // The widgets that differ from their models; a widget's enabled state is its own only
+    // where its parent is enabled.
+    QStringList abweichungen() {
+        QStringList aus;
+        const bool gueltig = programm->bindungen->gueltig();
+        for (const Bindungen::Bindung& b : gebunden) {
+            const QWidget* w = b.widget;
+            const bool eltern_aktiv =
+                w->parentWidget() == nullptr || w->parentWidget()->isEnabled();
+            auto pruefen = [&](bool gleich, const char* was) {
+                if (!gleich) {
+                    aus << QStringLiteral("%1 %2").arg(w->objectName(), QLatin1String(was));
+                }
+            };
+            auto zustand = [&](bool aktiv, bool sichtbar) {
+                pruefen(!eltern_aktiv || w->isEnabled() == aktiv, "enabled");
+                pruefen(w->isHidden() != sichtbar, "visible");
+            };
+            if (const auto* sb = qobject_cast<const QScrollBar*>(w)) {
+                const auto& f = *static_cast<const ScrollField*>(b.modell);
+                pruefen(sb->minimum() == f.Min && sb->maximum() == f.Max, "range");
+                pruefen(sb->value() == f.Value(), "value");
+                zustand(f.Enabled, f.Visible);
+            } else if (const auto* cb = qobject_cast<const QComboBox*>(w)) {
+                const auto& f = *static_cast<const ListField*>(b.modell);
+                QStringList zeilen;
+                for (const std::string& e : f.Eintraege) {
+                    zeilen << QString::fromStdString(e);
+                }
+                QStringList gezeigt;
+                for (int i = 0; i < cb->count(); ++i) {
+                    gezeigt << cb->itemText(i);
+                }
+                pruefen(gezeigt == zeilen, "rows");
+                pruefen(cb->currentIndex() == f.ListIndex(), "row");
+                zustand(f.Enabled, f.Visible);
+            } else if (const auto* ch = qobject_cast<const QCheckBox*>(w)) {
+                const auto& f = *static_cast<const CheckField*>(b.modell);
+                pruefen(ch->isChecked() == (f.Value() == 1), "checked");
+                zustand(f.Enabled, f.Visible);
+            } else if (const auto* rb = qobject_cast<const QRadioButton*>(w)) {
+                const auto& g = *static_cast<const OptionGroup*>(b.modell);
+                pruefen(rb->isChecked() == g.Value(b.index), "checked");
+                pruefen(!eltern_aktiv || rb->isEnabled() == g.Enabled(b.index), "enabled");
+            } else if (const auto* l = qobject_cast<const QLabel*>(w)) {
+                const auto& m = *static_cast<const Label*>(b.modell);
+                const bool leer = b.art == Bindungen::Art::Ergebnis && !gueltig;
+                if (!(b.art == Bindungen::Art::Entwurf && m.Caption.empty())) {
+                    pruefen(l->text() == (leer ? QString() : QString::fromStdString(m.Caption)),
+                            "text");
+                }
+                if (b.art == Bindungen::Art::Ergebnis) {
+                    pruefen(!eltern_aktiv || l->isEnabled() == gueltig, "enabled");
+                }
+                pruefen(l->isHidden() != m.Visible, "visible");
+                if (b.massstab > 0) {
+                    pruefen(massstab::entwurf(*l).topLeft() ==
+                                QPoint(m.Left / b.massstab, m.Top / b.massstab),
+                            "place");
+                }
+            }
+        }
+        return aus;
+    }
 
     // The program built on the copied station folder, not yet started.
     void bauen() {
@@ -48,7 +123,6 @@ class TestHauptfenster : public QObject {
         });
         programm->klimaordner = klima->pfad().string();
     }
-    // The program started fast in `sprache`, the main window shown.
     void starten(const char* sprache) {
         bauen();
         programm->starten(sprache);
@@ -62,42 +136,163 @@ class TestHauptfenster : public QObject {
         return w;
     }
     QWidget* ebene(int i) { return programm->haupt->eingabe[static_cast<std::size_t>(i)]; }
+    QScrollBar* balken(int e, const char* name) { return finden<QScrollBar>(ebene(e), name); }
     // A tall, light building on a small floor, whose effective heat capacity turns negative
     // once the building is made taller.
     void leichter_bau() {
-        QWidget* geo = ebene(Hauptfenster::Geometrie);
-        finden<QScrollBar>(geo, "l_sb")->setSliderPosition(20);
-        finden<QScrollBar>(geo, "b_sb")->setSliderPosition(20);
-        finden<QScrollBar>(geo, "ag_sb")->setSliderPosition(-1);
+        balken(Hauptfenster::Geometrie, "l_sb")->setSliderPosition(20);
+        balken(Hauptfenster::Geometrie, "b_sb")->setSliderPosition(20);
+        balken(Hauptfenster::Geometrie, "ag_sb")->setSliderPosition(-1);
         for (QComboBox* liste : ebene(Hauptfenster::Gebaeude)->findChildren<QComboBox*>()) {
             liste->setCurrentIndex(2);
             emit liste->activated(2);
         }
     }
-    // A chart of each result plane.
-    std::vector<ChartWidget*> ergebnisdiagramme() {
-        return {programm->uebersicht_diagramme.Monatsbilanz,
-                programm->uebersicht_diagramme.Temperaturen,
-                programm->heizen_diagramme.Heizbilanz,
-                programm->kuehlen_diagramme.KuehlbedarfMonat,
-                programm->sankey_diagramme.Sankey,
-                programm->energie_diagramme.Monatsuebersicht};
+    // Every result plane and chart is valid, or none is.
+    void ergebnisse_gueltig(bool gueltig) {
+        for (QWidget* a : programm->haupt->ausgabe) {
+            QCOMPARE(a->isEnabled(), gueltig);
+        }
+        for (ChartWidget* c :
+             {programm->uebersicht_diagramme.Monatsbilanz,
+              programm->uebersicht_diagramme.Temperaturen, programm->heizen_diagramme.Heizbilanz,
+              programm->kuehlen_diagramme.KuehlbedarfMonat, programm->sankey_diagramme.Sankey,
+              programm->energie_diagramme.Monatsuebersicht,
+              programm->geometrie_diagramme.AV_Picture}) {
+            QCOMPARE(c->gueltig(), gueltig);
+        }
+        // No report, temperature table or printout of old results beside the new inputs.
+        for (const char* name :
+             {"mnuFileDrucken", "mnuBerechnungsergebnisseExportieren", "mnuTemperaturExport"}) {
+            QVERIFY2(programm->haupt->findChild<QAction*>(name)->isEnabled() == gueltig, name);
+        }
     }
 
 private slots:
-    // Each facade panel of the windows plane names its facade; the south one the window type.
-    void fassadenrahmen_tragen_ihre_namen() {
+    void initTestCase() {
+        klima = klima_kopie();
+        Bindungen::gebunden = [this](const Bindungen::Bindung& b) { gebunden.push_back(b); };
+    }
+    void cleanupTestCase() { Bindungen::gebunden = nullptr; }
+    void cleanup() {
+        programm.reset();
+        dialoge.reset();
+        gebunden.clear();
+        std::filesystem::remove(klima->pfad() / "typ.dat");
+        wahl.clear();
+        gewaehlt = 0;
+    }
+
+    // After every kind of user action, in both languages and through a fault of the
+    // calculation, each bound widget shows its model: range, position, rows, checks, texts,
+    // enabled and visible state and place.
+    void jedes_gebundene_element_zeigt_sein_modell() {
         for (const char* sprache : {"d", "e"}) {
             starten(sprache);
-            QWidget* fe = programm->haupt->eingabe[Hauptfenster::Fenster];
-            QCOMPARE(finden<QGroupBox>(fe, "Frame_Nord")->title(), QStringLiteral("Nord"));
-            QCOMPARE(finden<QGroupBox>(fe, "Frame_Ost")->title(), QStringLiteral("Ost"));
-            QCOMPARE(finden<QGroupBox>(fe, "Frame_West")->title(), QStringLiteral("West"));
-            QCOMPARE(finden<QGroupBox>(fe, "Frame_Sued")->title(),
-                     std::string(sprache) == "d" ? QStringLiteral("Fenstertyp")
-                                                 : QStringLiteral("window type"));
+            QVERIFY(gebunden.size() > 150);
+            QWidget* geo = ebene(Hauptfenster::Geometrie);
+            QWidget* fe = ebene(Hauptfenster::Fenster);
+            const std::function<void()> schritte[] = {
+                [] {},
+                [&] {
+                    QTest::mouseClick(finden<QCheckBox>(geo, "Check_Dachgeschoss"), Qt::LeftButton);
+                },
+                [&] {
+                    QTest::mouseClick(finden<QRadioButton>(geo, "Option_Dachfirst(2)"),
+                                      Qt::LeftButton);
+                },
+                [&] {
+                    QTest::mouseClick(finden<QCheckBox>(ebene(Hauptfenster::Gebaeude), "awo_cb"),
+                                      Qt::LeftButton);
+                },
+                [&] {
+                    finden<QScrollBar>(fe, "ra_sb(1)")
+                        ->triggerAction(QAbstractSlider::SliderPageStepAdd);
+                },
+                [&] { QTest::mouseClick(finden<QRadioButton>(fe, "Option1(1)"), Qt::LeftButton); },
+                [&] {
+                    finden<QScrollBar>(fe, "kfg_sb(2)")
+                        ->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+                },
+                [&] {
+                    programm->haupt->eingabe_knopf[Hauptfenster::Energie]->click();
+                    QTest::mouseClick(
+                        ebene(Hauptfenster::Energie)->findChild<QPushButton*>("Command1"),
+                        Qt::LeftButton);
+                },
+                [&] {
+                    QTest::mouseClick(programm->energie_diagramme.Label_Auswahl[6], Qt::LeftButton,
+                                      {}, QPoint(4, 4));
+                },
+                [&] { leichter_bau(); },
+                [&] { balken(Hauptfenster::Geometrie, "h_sb")->setSliderPosition(-500); },
+                [&] { balken(Hauptfenster::Geometrie, "h_sb")->setSliderPosition(-30); },
+            };
+            for (std::size_t i = 0; i < std::size(schritte); ++i) {
+                schritte[i]();
+                // Step 10 trips the calculation: the results are blank and greyed.
+                QCOMPARE(programm->bindungen->gueltig(), i != 10);
+                const QStringList fehler = abweichungen();
+                QVERIFY2(fehler.isEmpty(),
+                         qPrintable(QStringLiteral("%1 step %2: ").arg(sprache).arg(i) +
+                                    fehler.join(QStringLiteral(", "))));
+            }
             cleanup();
         }
+    }
+
+    // The bars step the field by its own steps; a vertical bar's steps run against Qt's.
+    void balken_schritte() {
+        starten("d");
+        Projekt& p = programm->p;
+        const struct {
+            const char* balken;
+            QAbstractSlider::SliderAction aktion;
+            float* wert;
+            float erwartet;
+        } faelle[] = {
+            {"l_sb", QAbstractSlider::SliderSingleStepAdd, &p.l, 11.0f},
+            {"l_sb", QAbstractSlider::SliderPageStepAdd, &p.l, 13.0f},
+            {"h_sb", QAbstractSlider::SliderPageStepAdd, &p.h, 7.2f},
+            {"h_sb", QAbstractSlider::SliderSingleStepAdd, &p.h, 7.0f},
+        };
+        for (std::size_t i = 0; i < std::size(faelle); ++i) {
+            const auto& f = faelle[i];
+            balken(Hauptfenster::Geometrie, f.balken)->triggerAction(f.aktion);
+            QVERIFY2(
+                std::abs(*f.wert - f.erwartet) < 1e-4f,
+                qPrintable(QStringLiteral("row %1, %2: %3").arg(i).arg(f.balken).arg(*f.wert)));
+        }
+        balken(Hauptfenster::Geometrie, "l_sb")->setSliderPosition(250);
+        QCOMPARE(p.l, 25.0f);
+        QCOMPARE(p.Geaendert, int16_t{1});
+    }
+
+    // Check boxes, options and lists reach their models; a U value moved by the user makes the
+    // facade's type "Sonstiges", a chosen type sets its values.
+    void schalter_und_listen_erreichen_ihr_modell() {
+        starten("d");
+        Projekt& p = programm->p;
+        QWidget* geo = ebene(Hauptfenster::Geometrie);
+        QTest::mouseClick(finden<QCheckBox>(geo, "Check_Dachgeschoss"), Qt::LeftButton);
+        QVERIFY(p.Dachgeschoss);
+        QTest::mouseClick(finden<QRadioButton>(geo, "Option_Dachfirst(2)"), Qt::LeftButton);
+        QCOMPARE(p.Dachfirst, int16_t{2});
+        QCOMPARE(finden<QLabel>(geo, "Label6")->text(), QStringLiteral("Dachfläche (Süd):"));
+
+        QWidget* fe = ebene(Hauptfenster::Fenster);
+        programm->haupt->eingabe_knopf[Hauptfenster::Fenster]->click();
+        QTest::mouseClick(finden<QRadioButton>(fe, "Option1(1)"), Qt::LeftButton);
+        QCOMPARE(p.Fenstermodus, int16_t{1});
+        programm->haupt->findChildren<QPushButton*>("Command_HR(2)").first()->click();
+        auto* typ = finden<QGroupBox>(fe, "Frame_Ost")->findChild<QComboBox*>();
+        QVERIFY(typ->isVisible());
+        typ->setCurrentIndex(1);
+        emit typ->activated(1);
+        QCOMPARE(p.fenstero_typ, int16_t{1});
+        finden<QScrollBar>(fe, "kfg_sb(2)")->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        QCOMPARE(p.fenstero_typ, int16_t{7});
+        QVERIFY(p.fensters_typ != 7);
     }
 
     // The controls' texts are drawn smoothed: a word in the program's font leaves grey pixels
@@ -124,183 +319,36 @@ private slots:
             QVERIFY2(grau > 10, qPrintable(QStringLiteral("at %1x").arg(faktor)));
         }
     }
-    void initTestCase() { klima = klima_kopie(); }
-    void cleanup() {
-        programm.reset();
-        dialoge.reset();
-        std::filesystem::remove(klima->pfad() / "typ.dat");
-        wahl.clear();
-        gewaehlt = 0;
-    }
-
-    void laenge_bewegt_anzeige_und_flaechen() {
-        starten("d");
-        Projekt& p = programm->p;
-        QWidget* geo = ebene(Hauptfenster::Geometrie);
-        auto* l_sb = finden<QScrollBar>(geo, "l_sb");
-        auto* l_anz = finden<QLabel>(geo, "l_anz");
-        QCOMPARE(l_anz->text(), QStringLiteral("Länge: 10,0 m"));
-        // The arrow moves by 1.0 m, a page click by 2.0 m.
-        l_sb->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        QCOMPARE(l_sb->value(), 110);
-        QCOMPARE(p.l, 11.0f);
-        QCOMPARE(l_anz->text(), QStringLiteral("Länge: 11,0 m"));
-        l_sb->triggerAction(QAbstractSlider::SliderPageStepAdd);
-        QCOMPARE(p.l, 13.0f);
-        QCOMPARE(l_anz->text(), QStringLiteral("Länge: 13,0 m"));
-        // A drag to a position.
-        l_sb->setSliderPosition(250);
-        QCOMPARE(p.l, 25.0f);
-        QCOMPARE(l_anz->text(), QStringLiteral("Länge: 25,0 m"));
-        QCOMPARE(p.Geaendert, int16_t{1});
-    }
-
-    void senkrechte_seitenschritte_sind_umgekehrt() {
-        starten("d");
-        Projekt& p = programm->p;
-        auto* h_sb = finden<QScrollBar>(ebene(Hauptfenster::Geometrie), "h_sb");
-        const float h = p.h;
-        // A click below the handle moves the field up: the height grows by 2.0 m.
-        h_sb->triggerAction(QAbstractSlider::SliderPageStepAdd);
-        QCOMPARE(p.h, h + 2.0f);
-        // The arrow down makes the building lower by 0.2 m.
-        h_sb->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        QCOMPARE(p.h, static_cast<float>((h_sb->value()) * -0.1));
-        QVERIFY(std::abs(p.h - (h + 1.8f)) < 1e-4f);
-    }
-
-    void beheiztes_dach_zeigt_dachfelder() {
-        starten("d");
-        Projekt& p = programm->p;
-        QWidget* geo = ebene(Hauptfenster::Geometrie);
-        auto* hd_sb = finden<QScrollBar>(geo, "hd_sb");
-        QVERIFY(!hd_sb->isVisible());
-        QVERIFY(!finden<QLabel>(geo, "Label4")->isVisible());
-        QVERIFY(!finden<QGroupBox>(geo, "Frame3")->isEnabled());
-        QTest::mouseClick(finden<QCheckBox>(geo, "Check_Dachgeschoss"), Qt::LeftButton);
-        QVERIFY(hd_sb->isVisible());
-        QVERIFY(finden<QLabel>(geo, "Label4")->isVisible());
-        QVERIFY(finden<QLabel>(geo, "Label9")->isVisible());
-        QVERIFY(finden<QGroupBox>(geo, "Frame3")->isEnabled());
-        QCOMPARE(hd_sb->value(), -10);
-        // The insulation plane's upper closure is now the roof.
-        QCOMPARE(finden<QLabel>(ebene(Hauptfenster::Daemmung), "liste2")->text(),
-                 QStringLiteral("Dach"));
-        // The ridge east-west swaps the captions: the roof area keeps its row beside its value,
-        // the gable its own.
-        const QPoint flaeche = finden<QLabel>(geo, "Label9")->pos();
-        const QPoint giebel = finden<QLabel>(geo, "Label6")->pos();
-        QVERIFY(flaeche.y() != giebel.y());
-        QTest::mouseClick(finden<QRadioButton>(geo, "Option_Dachfirst(2)"), Qt::LeftButton);
-        QCOMPARE(finden<QLabel>(geo, "Label6")->text(), QStringLiteral("Dachfläche (Süd):"));
-        QCOMPARE(finden<QLabel>(geo, "Label6")->pos(), flaeche);
-        QCOMPARE(finden<QLabel>(geo, "Label9")->pos(), giebel);
-        QVERIFY(finden<QRadioButton>(geo, "Option_Dachfirst(2)")->isChecked());
-        QVERIFY(!finden<QRadioButton>(geo, "Option_Dachfirst(1)")->isChecked());
-        QTest::mouseClick(finden<QCheckBox>(geo, "Check_Dachgeschoss"), Qt::LeftButton);
-        QVERIFY(!p.Dachgeschoss);
-        QVERIFY(!hd_sb->isVisible());
-    }
-
-    void suedfassade_bewegt_alle_im_modus_gleiche_fenster() {
-        starten("d");
-        Projekt& p = programm->p;
-        programm->haupt->eingabe_knopf[Hauptfenster::Fenster]->click();
-        QWidget* fe = ebene(Hauptfenster::Fenster);
-        QTest::mouseClick(finden<QRadioButton>(fe, "Option1(0)"), Qt::LeftButton);
-        QVERIFY(finden<QRadioButton>(fe, "Option1(0)")->isChecked());
-        // The frame share of the south panel goes to every facade, on the screen too.
-        auto* sued = finden<QScrollBar>(fe, "ra_sb(1)");
-        const int vorher = sued->value();
-        sued->triggerAction(QAbstractSlider::SliderPageStepAdd);
-        QCOMPARE(sued->value(), vorher + 20);
-        for (int i = 0; i < 4; ++i) {
-            const QString name = QStringLiteral("ra_sb(%1)").arg(i);
-            QCOMPARE(fe->findChild<QScrollBar*>(name)->value(), vorher + 20);
-        }
-        QCOMPARE(p.rao, static_cast<float>((vorher + 20) / 100.0));
-        // The window share belongs to its facade in every mode.
-        auto* anteil = finden<QScrollBar>(fe, "f_sb(1)");
-        const int nord = finden<QScrollBar>(fe, "f_sb(0)")->value();
-        anteil->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        QCOMPARE(finden<QScrollBar>(fe, "f_sb(0)")->value(), nord);
-        // The glazing U value of the south panel goes to every facade too.
-        auto* kfg = finden<QScrollBar>(fe, "kfg_sb(1)");
-        kfg->triggerAction(QAbstractSlider::SliderPageStepSub);
-        QCOMPARE(finden<QScrollBar>(fe, "kfg_sb(3)")->value(), kfg->value());
-    }
-
-    // A U value moved by hand makes the facade's type "Sonstiges"; a chosen type sets its values.
-    void verschobener_wert_macht_typ_sonstiges() {
-        starten("d");
-        programm->haupt->eingabe_knopf[Hauptfenster::Fenster]->click();
-        QWidget* fe = ebene(Hauptfenster::Fenster);
-        QTest::mouseClick(finden<QRadioButton>(fe, "Option1(1)"), Qt::LeftButton);
-        programm->haupt->findChildren<QPushButton*>("Command_HR(2)").first()->click();
-        auto* typ = finden<QGroupBox>(fe, "Frame_Ost")->findChild<QComboBox*>();
-        QVERIFY(typ->isVisible());
-        typ->setCurrentIndex(1);
-        emit typ->activated(1);
-        QCOMPARE(programm->p.fenstero_typ, int16_t{1});
-        finden<QScrollBar>(fe, "kfg_sb(2)")->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        QCOMPARE(typ->currentIndex(), 7);
-        QCOMPARE(programm->p.fenstero_typ, int16_t{7});
-        // The south facade keeps its own type in the individual mode.
-        QVERIFY(finden<QGroupBox>(fe, "Frame_Sued")->findChild<QComboBox*>()->currentIndex() != 7);
-    }
-
-    void wand_gegen_beheizt_sperrt_fensteranteil() {
-        starten("d");
-        QWidget* fe = ebene(Hauptfenster::Fenster);
-        QWidget* geb = ebene(Hauptfenster::Gebaeude);
-        programm->haupt->eingabe_knopf[Hauptfenster::Gebaeude]->click();
-        QVERIFY(finden<QScrollBar>(fe, "f_sb(2)")->isEnabled());
-        QTest::mouseClick(finden<QCheckBox>(geb, "awo_cb"), Qt::LeftButton);
-        QVERIFY(!finden<QScrollBar>(fe, "f_sb(2)")->isEnabled());
-        QVERIFY(finden<QScrollBar>(fe, "f_sb(0)")->isEnabled());
-        QTest::mouseClick(finden<QCheckBox>(geb, "awo_cb"), Qt::LeftButton);
-        QVERIFY(finden<QScrollBar>(fe, "f_sb(2)")->isEnabled());
-    }
 
     void schliessen_fragt_nach_aenderungen() {
         starten("d");
         TempOrdner ordner;
-        auto* l_sb = finden<QScrollBar>(ebene(Hauptfenster::Geometrie), "l_sb");
         Hauptfenster& haupt = *programm->haupt;
-        // Unchanged: no question.
         QVERIFY(haupt.close());
-        QVERIFY(dialoge->nachrichten.empty());
         haupt.show();
-        l_sb->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        // Cancel keeps the window.
+        balken(Hauptfenster::Geometrie, "l_sb")
+            ->triggerAction(QAbstractSlider::SliderSingleStepAdd);
         dialoge->antworten = {Dialogs::Antwort::Abbrechen};
         QVERIFY(!haupt.close());
         QVERIFY(haupt.isVisible());
-        QCOMPARE(dialoge->nachrichten.back().titel, std::string("Änderungen speichern ?"));
-        QCOMPARE(dialoge->nachrichten.back().knoepfe, Dialogs::Knoepfe::JaNeinAbbrechen);
-        // Yes asks for a name and saves there before the window goes.
         const std::string datei = (ordner.pfad() / "haus.vel").string();
         dialoge->antworten = {Dialogs::Antwort::Ja};
         dialoge->dateien = {datei};
         QVERIFY(haupt.close());
         QVERIFY(std::filesystem::exists(datei));
-        QCOMPARE(programm->p.Geaendert, int16_t{0});
     }
 
     void englischer_start_uebersetzt_jedes_fenster() {
         starten("e");
         QCOMPARE(programm->unuebersetzt, 0);
         Hauptfenster& haupt = *programm->haupt;
-        QCOMPARE(dialoge->titel, std::string("Velmaris - [no name]"));
         // The captions as they stand, each with an access key of its own letters.
         QCOMPARE(haupt.findChild<QAction*>("mnuFile")->text(), QStringLiteral("&File"));
         QCOMPARE(haupt.findChild<QAction*>("mnuQuestInfo")->text(), QStringLiteral("&Info"));
         QCOMPARE(haupt.eingabe_knopf[Hauptfenster::Daemmung]->text(), QStringLiteral("Insulation"));
         QCOMPARE(haupt.ausgabe_knopf[Hauptfenster::Uebersicht]->text(), QStringLiteral("Preview"));
-        QVERIFY(haupt.mnuSpracheEnglisch->isChecked());
-        QVERIFY(!haupt.mnuSpracheDeutsch->isChecked());
-        QCOMPARE(finden<QLabel>(ebene(Hauptfenster::Geometrie), "l_anz")->text(),
-                 QStringLiteral("length: 10.0 m"));
+        QCOMPARE(finden<QGroupBox>(ebene(Hauptfenster::Fenster), "Frame_Sued")->title(),
+                 QStringLiteral("window type"));
         // No German caption of a translated window is left on the screen.
         const std::array<std::pair<const char*, QWidget*>, 7> fenster{{
             {"Haupt", &haupt},
@@ -311,37 +359,34 @@ private slots:
             {"E_Daemmung", ebene(Hauptfenster::Daemmung)},
             {"E_Gebaeude", ebene(Hauptfenster::Gebaeude)},
         }};
+        auto text = [](std::string_view s) {
+            return QString::fromUtf8(s.data(), static_cast<int>(s.size()));
+        };
         for (const auto& [name, w] : fenster) {
             QStringList uebrig;
             // Controls whose English caption is their German one by design.
             QStringList gleich;
             for (const Beschriftung& b : beschriftungen(name)) {
                 if (!b.Steuerelement.empty() && b.Deutsch == b.Englisch) {
-                    gleich << QString::fromUtf8(b.Steuerelement.data(),
-                                                static_cast<int>(b.Steuerelement.size()));
+                    gleich << text(b.Steuerelement);
                 }
             }
             for (const Beschriftung& b : beschriftungen(name)) {
+                const QString deutsch = text(b.Deutsch);
                 // A caption the same in both languages but for its access key ("&Report" and
                 // "Report") gets the same key in English.
-                const QString englisch = QString::fromStdString(std::string(b.Englisch));
-                if (b.Deutsch.empty() ||
-                    QString::fromStdString(std::string(b.Deutsch)).remove(QLatin1Char('&')) ==
-                        QString(englisch).remove(QLatin1Char('&'))) {
+                if (b.Deutsch.empty() || QString(deutsch).remove(QLatin1Char('&')) ==
+                                             text(b.Englisch).remove(QLatin1Char('&'))) {
                     continue;
                 }
-                const QString deutsch =
-                    QString::fromUtf8(b.Deutsch.data(), static_cast<int>(b.Deutsch.size()));
                 for (QObject* o : w->findChildren<QObject*>()) {
-                    if (gleich.contains(o->objectName())) {
-                        continue;
-                    }
                     const auto* l = qobject_cast<QLabel*>(o);
                     const auto* k = qobject_cast<QAbstractButton*>(o);
                     const auto* g = qobject_cast<QGroupBox*>(o);
                     const auto* a = qobject_cast<QAction*>(o);
-                    if ((l && l->text() == deutsch) || (k && k->text() == deutsch) ||
-                        (g && g->title() == deutsch) || (a && a->text() == deutsch)) {
+                    if (!gleich.contains(o->objectName()) &&
+                        ((l && l->text() == deutsch) || (k && k->text() == deutsch) ||
+                         (g && g->title() == deutsch) || (a && a->text() == deutsch))) {
                         uebrig << deutsch;
                     }
                 }
@@ -351,28 +396,17 @@ private slots:
         }
     }
 
+    // The menu's language is written for the next start; this run keeps its own.
     void sprachmenue_wirkt_beim_naechsten_start() {
         starten("d");
         Hauptfenster& haupt = *programm->haupt;
         haupt.mnuSpracheEnglisch->trigger();
         QVERIFY(haupt.mnuSpracheEnglisch->isChecked());
         QVERIFY(!haupt.mnuSpracheDeutsch->isChecked());
-        QCOMPARE(dialoge->nachrichten.size(), std::size_t{1});
         std::string buchstabe;
         std::ifstream(klima->pfad() / "typ.dat") >> buchstabe;
         QCOMPARE(buchstabe, std::string("e"));
-        // The captions stay German for this run; the checked entry again does nothing.
         QCOMPARE(haupt.eingabe_knopf[Hauptfenster::Daemmung]->text(), QStringLiteral("Dämmung"));
-        haupt.mnuSpracheEnglisch->trigger();
-        QVERIFY(haupt.mnuSpracheEnglisch->isChecked());
-        QCOMPARE(dialoge->nachrichten.size(), std::size_t{1});
-        // The next start without a letter reads it: English, without the choice window.
-        cleanup();
-        std::ofstream(klima->pfad() / "typ.dat") << "e\n";
-        bauen();
-        programm->starten(std::string());
-        QCOMPARE(gewaehlt, 0);
-        QCOMPARE(programm->p.Sprache, std::string("e"));
     }
 
     // Without a language file the choice window asks; the splash waits for Timer1 or OK_Button,
@@ -380,11 +414,9 @@ private slots:
     void start_mit_wahl_splash_und_projekt() {
         starten("d");
         const std::string datei = (klima->pfad() / "haus.vel").string();
-        QVERIFY(QString::fromStdString(datei) == QString::fromStdString(datei).toLower());
-        finden<QScrollBar>(ebene(Hauptfenster::Geometrie), "l_sb")->setSliderPosition(123);
+        balken(Hauptfenster::Geometrie, "l_sb")->setSliderPosition(123);
         dialoge->dateien = {datei};
         programm->haupt->speichern_unter();
-        QVERIFY(std::filesystem::exists(datei));
         cleanup();
 
         wahl = "d";
@@ -402,21 +434,17 @@ private slots:
         QVERIFY(!start.Timer1.isActive());
         QVERIFY(programm->haupt->isVisible());
         QCOMPARE(programm->p.l, 12.3f);
-        QCOMPARE(dialoge->titel, std::string("Velmaris - HAUS.VEL"));
-        QCOMPARE(finden<QLabel>(ebene(Hauptfenster::Geometrie), "l_anz")->text(),
-                 QStringLiteral("Länge: 12,3 m"));
         // Later the same button closes the about box only.
         start.show();
         start.OK_Button->click();
         QVERIFY(!start.isVisible());
         QCOMPARE(programm->p.l, 12.3f);
         // Its close box asks about unsaved changes as the main window's does.
-        finden<QScrollBar>(ebene(Hauptfenster::Geometrie), "l_sb")
+        balken(Hauptfenster::Geometrie, "l_sb")
             ->triggerAction(QAbstractSlider::SliderSingleStepAdd);
         start.show();
         dialoge->antworten = {Dialogs::Antwort::Abbrechen};
         QVERIFY(!start.close());
-        QCOMPARE(dialoge->nachrichten.back().titel, std::string("Änderungen speichern ?"));
     }
 
     // F1 opens the help of the language of the run at the plane last worked on, input or
@@ -426,24 +454,26 @@ private slots:
         Hauptfenster& haupt = *programm->haupt;
         haupt.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&haupt));
-        haupt.eingabe_knopf[Hauptfenster::Daemmung]->click();
-        QTest::keyClick(&haupt, Qt::Key_F1);
-        QVERIFY(programm->hilfe != nullptr);
-        QVERIFY(programm->hilfe->isVisible());
-        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#daemmung"));
+        const std::function<void()> schritte[] = {
+            [&] { haupt.eingabe_knopf[Hauptfenster::Daemmung]->click(); },
+            [&] { haupt.ausgabe_knopf[Hauptfenster::Heizen]->click(); },
+            [&] {
+                QTest::mouseClick(ebene(Hauptfenster::Daemmung), Qt::LeftButton, {}, {5, 5});
+            },
+            [&] {
+                QTest::mouseClick(haupt.ausgabe[Hauptfenster::Heizen], Qt::LeftButton, {}, {5, 5});
+            },
+        };
+        const char* const anker[] = {"#daemmung", "#heizen", "#daemmung", "#heizen"};
+        for (std::size_t i = 0; i < std::size(schritte); ++i) {
+            schritte[i]();
+            QTest::keyClick(&haupt, Qt::Key_F1);
+            QVERIFY(programm->hilfe != nullptr && programm->hilfe->isVisible());
+            const QString quelle = programm->hilfe->source().toString();
+            QVERIFY2(quelle.endsWith(QStringLiteral("velmaris_e.html") + anker[i]),
+                     qPrintable(QString::number(i) + ": " + quelle));
+        }
         QVERIFY(programm->hilfe->toPlainText().size() > 1000);
-
-        haupt.ausgabe_knopf[Hauptfenster::Heizen]->click();
-        QTest::keyClick(&haupt, Qt::Key_F1);
-        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#heizen"));
-        // A click into the input plane makes it the one F1 explains again.
-        QTest::mouseClick(ebene(Hauptfenster::Daemmung), Qt::LeftButton, {}, QPoint(5, 5));
-        QTest::keyClick(&haupt, Qt::Key_F1);
-        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#daemmung"));
-        QTest::mouseClick(haupt.ausgabe[Hauptfenster::Heizen], Qt::LeftButton, {}, QPoint(5, 5));
-        QTest::keyClick(&haupt, Qt::Key_F1);
-        QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html#heizen"));
-
         haupt.findChild<QAction*>("mnuQuestHilfe")->trigger();
         QVERIFY(programm->hilfe->source().toString().endsWith("velmaris_e.html"));
         programm->hilfe->resize(800, 700);
@@ -451,176 +481,105 @@ private slots:
         bild_speichern(*programm->hilfe, QStringLiteral("hilfe_beispiel_e"));
     }
 
+    // A plane's button is disabled while its plane shows, and every input plane paints.
     void ebenenknopf_gesperrt_solange_ebene_gezeigt() {
         starten("d");
         Hauptfenster& haupt = *programm->haupt;
         QVERIFY(!haupt.eingabe_knopf[Hauptfenster::Geometrie]->isEnabled());
         haupt.findChild<QAction*>("mnuWinDaem")->trigger();
+        haupt.findChild<QAction*>("mnuWinDaem")->trigger();
         QVERIFY(ebene(Hauptfenster::Daemmung)->isVisible());
         QVERIFY(!ebene(Hauptfenster::Geometrie)->isVisible());
         QVERIFY(!haupt.eingabe_knopf[Hauptfenster::Daemmung]->isEnabled());
         QVERIFY(haupt.eingabe_knopf[Hauptfenster::Geometrie]->isEnabled());
-        // The same entry again: the plane stays, its button stays disabled.
-        haupt.findChild<QAction*>("mnuWinDaem")->trigger();
-        QVERIFY(ebene(Hauptfenster::Daemmung)->isVisible());
-        QVERIFY(!haupt.eingabe_knopf[Hauptfenster::Daemmung]->isEnabled());
         haupt.ausgabe_knopf[Hauptfenster::Heizen]->click();
         QVERIFY(haupt.ausgabe[Hauptfenster::Heizen]->isVisible());
         QVERIFY(!haupt.ausgabe[Hauptfenster::Uebersicht]->isVisible());
+        for (int i = 0; i < 4; ++i) {
+            haupt.eingabe_knopf[static_cast<std::size_t>(i)]->click();
+            const QImage bild = ebene(i)->grab().toImage();
+            int anders = 0;
+            for (int y = 0; y < bild.height(); y += 3) {
+                for (int x = 0; x < bild.width(); x += 3) {
+                    anders += bild.pixel(x, y) != bild.pixel(0, 0) ? 1 : 0;
+                }
+            }
+            QVERIFY2(anders > 500, qPrintable(QString::number(i)));
+            bild_speichern(haupt, QStringLiteral("ebene_d_%1").arg(i));
+        }
     }
 
-    // A fault of the calculation is shown, greys the results and leaves the project editable;
-    // the next change calculates again. Opening a project whose calculation fails greys them
-    // as well.
-    void rechenfehler_macht_ergebnisse_ungueltig() {
+    // One press on an arrow that trips the calculation, held while the message is up (a modal
+    // box runs the event loop, and with it the arrow's auto-repeat): one message, one step, the
+    // results greyed on every plane but the project still editable, until a calculation
+    // succeeds. Opening a project whose calculation fails greys them as well.
+    void rechenfehler_meldet_einmal_und_sperrt_die_ergebnisse() {
         starten("d");
-        QWidget* geo = ebene(Hauptfenster::Geometrie);
+        auto* h_sb = balken(Hauptfenster::Geometrie, "h_sb");
         leichter_bau();
-        QVERIFY(programm->fehler.empty());
-        finden<QScrollBar>(geo, "h_sb")->setSliderPosition(-500);
-        QVERIFY2(!programm->fehler.empty(), "no fault");
-        QCOMPARE(dialoge->nachrichten.back().text, programm->fehler);
-        QVERIFY(dialoge->nachrichten.back().text.find("negativ") != std::string::npos);
-        auto* f_gd = finden<QLabel>(geo, "f_gd_anz");
-        QVERIFY(f_gd->text().isEmpty());
-        QVERIFY(!f_gd->isEnabled());
-        QVERIFY(!programm->geometrie_diagramme.AV_Picture->gueltig());
-        // No report, temperature table or printout of old results beside the new inputs.
-        const char* const dokumente[] = {"mnuFileDrucken", "mnuBerechnungsergebnisseExportieren",
-                                         "mnuTemperaturExport"};
-        for (const char* name : dokumente) {
-            QVERIFY2(!programm->haupt->findChild<QAction*>(name)->isEnabled(), name);
+        // The last height that still calculates: one step taller fails.
+        int hoehe = h_sb->value();
+        while (hoehe - 2 >= h_sb->minimum()) {
+            h_sb->setSliderPosition(hoehe - 2);
+            if (!programm->fehler.empty()) {
+                break;
+            }
+            hoehe -= 2;
         }
-        const std::string datei = (klima->pfad() / "hoch.vel").string();
-        dialoge->dateien = {datei};
-        programm->haupt->speichern_unter();
-        // Still editable: the field moved, and a lower building calculates again.
-        QVERIFY(finden<QScrollBar>(geo, "h_sb")->isEnabled());
-        QCOMPARE(programm->p.h, 50.0f);
-        finden<QScrollBar>(geo, "h_sb")->setSliderPosition(-30);
-        QVERIFY(programm->fehler.empty());
-        QCOMPARE(f_gd->text(), QStringLiteral(" 4,0"));
-        QVERIFY(f_gd->isEnabled());
-        QVERIFY(programm->geometrie_diagramme.AV_Picture->gueltig());
-        for (const char* name : dokumente) {
-            QVERIFY2(programm->haupt->findChild<QAction*>(name)->isEnabled(), name);
-        }
+        h_sb->setSliderPosition(hoehe);
+        QVERIFY2(programm->fehler.empty(), "no height that calculates");
+        QVERIFY(hoehe - 2 >= h_sb->minimum());
 
         const std::size_t vorher = dialoge->nachrichten.size();
+        dialoge->beim_melden = [] { QTest::qWait(1500); };
+        QStyleOptionSlider opt;
+        opt.initFrom(h_sb);
+        opt.subControls = QStyle::SC_All;
+        opt.orientation = h_sb->orientation();
+        opt.minimum = h_sb->minimum();
+        opt.maximum = h_sb->maximum();
+        opt.sliderPosition = opt.sliderValue = h_sb->value();
+        opt.singleStep = h_sb->singleStep();
+        opt.pageStep = h_sb->pageStep();
+        opt.upsideDown = h_sb->invertedAppearance();
+        const QRect pfeil = h_sb->style()->subControlRect(QStyle::CC_ScrollBar, &opt,
+                                                          QStyle::SC_ScrollBarSubLine, h_sb);
+        QVERIFY(!pfeil.isEmpty());
+        QTest::mousePress(h_sb, Qt::LeftButton, {}, pfeil.center());
+        QTest::mouseRelease(h_sb, Qt::LeftButton, {}, pfeil.center());
+        QTest::qWait(300);
+        dialoge->beim_melden = nullptr;
+
+        QCOMPARE(dialoge->nachrichten.size(), vorher + 1);
+        QCOMPARE(dialoge->nachrichten.back().text, programm->fehler);
+        QCOMPARE(h_sb->value(), hoehe - 2);
+        QCOMPARE(programm->p.h, static_cast<float>(-(hoehe - 2)) / 10.0f);
+        // Showing the planes reports nothing again.
+        Hauptfenster& haupt = *programm->haupt;
+        for (QPushButton* k : haupt.ausgabe_knopf) {
+            k->click();
+        }
+        haupt.eingabe_knopf[Hauptfenster::Gebaeude]->click();
+        haupt.eingabe_knopf[Hauptfenster::Geometrie]->click();
+        QCOMPARE(dialoge->nachrichten.size(), vorher + 1);
+        ergebnisse_gueltig(false);
+        bild_speichern(haupt, QStringLiteral("rechenfehler_d"));
+
+        const std::string datei = (klima->pfad() / "hoch.vel").string();
+        dialoge->dateien = {datei};
+        haupt.speichern_unter();
+        QVERIFY(h_sb->isEnabled());
+        h_sb->setSliderPosition(hoehe);
+        QVERIFY(programm->fehler.empty());
+        ergebnisse_gueltig(true);
+
         dialoge->antworten = {Dialogs::Antwort::Nein};
         dialoge->dateien = {datei};
-        programm->haupt->oeffnen();
-        QCOMPARE(dialoge->nachrichten.size(), vorher + 2);
+        haupt.oeffnen();
         QVERIFY(dialoge->nachrichten.back().text.rfind("Dateifehler!", 0) == 0);
         QVERIFY(!programm->bindungen->gueltig());
         QVERIFY(!programm->uebersicht_diagramme.Monatsbilanz->gueltig());
         std::filesystem::remove(datei);
-    }
-
-    // One press on an arrow that trips the calculation, held while the message is up (a modal
-    // box runs the event loop, and with it the arrow's auto-repeat): one message, one step, and
-    // the fault state on every plane until a calculation succeeds.
-    void fehler_beim_pfeil_meldet_einmal() {
-        for (const char* sprache : {"d", "e"}) {
-            starten(sprache);
-            QWidget* geo = ebene(Hauptfenster::Geometrie);
-            auto* h_sb = finden<QScrollBar>(geo, "h_sb");
-            leichter_bau();
-            // The last height that still calculates: one step taller fails.
-            int hoehe = h_sb->value();
-            while (hoehe - 2 >= h_sb->minimum()) {
-                h_sb->setSliderPosition(hoehe - 2);
-                if (!programm->fehler.empty()) {
-                    break;
-                }
-                hoehe -= 2;
-            }
-            h_sb->setSliderPosition(hoehe);
-            QVERIFY2(programm->fehler.empty(), "no height that calculates");
-            QVERIFY(hoehe - 2 >= h_sb->minimum());
-
-            const std::size_t vorher = dialoge->nachrichten.size();
-            dialoge->beim_melden = [] { QTest::qWait(1500); };
-            QStyleOptionSlider opt;
-            opt.initFrom(h_sb);
-            opt.subControls = QStyle::SC_All;
-            opt.orientation = h_sb->orientation();
-            opt.minimum = h_sb->minimum();
-            opt.maximum = h_sb->maximum();
-            opt.sliderPosition = opt.sliderValue = h_sb->value();
-            opt.singleStep = h_sb->singleStep();
-            opt.pageStep = h_sb->pageStep();
-            opt.upsideDown = h_sb->invertedAppearance();
-            const QRect pfeil = h_sb->style()->subControlRect(QStyle::CC_ScrollBar, &opt,
-                                                              QStyle::SC_ScrollBarSubLine, h_sb);
-            QVERIFY(!pfeil.isEmpty());
-            QTest::mousePress(h_sb, Qt::LeftButton, {}, pfeil.center());
-            QTest::mouseRelease(h_sb, Qt::LeftButton, {}, pfeil.center());
-            QTest::qWait(300);
-            dialoge->beim_melden = nullptr;
-
-            QCOMPARE(dialoge->nachrichten.size(), vorher + 1);
-            QCOMPARE(h_sb->value(), hoehe - 2);
-            QCOMPARE(programm->p.h, static_cast<float>(-(hoehe - 2)) / 10.0f);
-            const std::string ursache = std::string(sprache) == "e"
-                                            ? "effective heat capacity comes out negative"
-                                            : "wirksame Wärmekapazität wird negativ";
-            QVERIFY(dialoge->nachrichten.back().text.find(ursache) != std::string::npos);
-
-            // Every result plane stays greyed, and showing a plane reports nothing again.
-            Hauptfenster& haupt = *programm->haupt;
-            for (int a = 0; a < 5; ++a) {
-                haupt.ausgabe_knopf[static_cast<std::size_t>(a)]->click();
-                QVERIFY(!haupt.ausgabe[static_cast<std::size_t>(a)]->isEnabled());
-            }
-            for (ChartWidget* c : ergebnisdiagramme()) {
-                QVERIFY(!c->gueltig());
-            }
-            haupt.eingabe_knopf[Hauptfenster::Gebaeude]->click();
-            haupt.eingabe_knopf[Hauptfenster::Geometrie]->click();
-            QCOMPARE(dialoge->nachrichten.size(), vorher + 1);
-            QVERIFY(finden<QLabel>(geo, "f_gd_anz")->text().isEmpty());
-            bild_speichern(haupt, QStringLiteral("rechenfehler_%1").arg(sprache));
-
-            // A change that calculates ends the fault state everywhere.
-            h_sb->setSliderPosition(hoehe);
-            QVERIFY(programm->fehler.empty());
-            for (int a = 0; a < 5; ++a) {
-                QVERIFY(haupt.ausgabe[static_cast<std::size_t>(a)]->isEnabled());
-            }
-            for (ChartWidget* c : ergebnisdiagramme()) {
-                QVERIFY(c->gueltig());
-            }
-            cleanup();
-        }
-    }
-
-    // Every input plane paints in both languages; with VELMARIS_BILDER set, the pictures of
-    // the main window go to that folder for a look by eye.
-    void ebenen_zeichnen_sich() {
-        for (const char* sprache : {"d", "e"}) {
-            starten(sprache);
-            Hauptfenster& haupt = *programm->haupt;
-            const QString ordner = qEnvironmentVariable("VELMARIS_BILDER");
-            for (int i = 0; i < 4; ++i) {
-                haupt.eingabe_knopf[static_cast<std::size_t>(i)]->click();
-                const QImage bild = haupt.grab().toImage();
-                QCOMPARE(bild.width(), haupt.width());
-                const QImage ebene_bild = ebene(i)->grab().toImage();
-                const QRgb ecke = ebene_bild.pixel(0, 0);
-                int anders = 0;
-                for (int y = 0; y < ebene_bild.height(); y += 3) {
-                    for (int x = 0; x < ebene_bild.width(); x += 3) {
-                        anders += ebene_bild.pixel(x, y) != ecke ? 1 : 0;
-                    }
-                }
-                QVERIFY(anders > 500);
-                if (!ordner.isEmpty()) {
-                    bild.save(ordner + QStringLiteral("/ebene_%1_%2.png").arg(sprache).arg(i));
-                }
-            }
-            cleanup();
-        }
     }
 };
 
