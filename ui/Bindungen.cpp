@@ -29,7 +29,9 @@ void sichtbar_setzen(QWidget& w, bool sichtbar) {
 }
 
 void aktiv_setzen(QWidget& w, bool aktiv) {
-    if (w.isEnabled() != aktiv) {
+    // The widget's own flag, as for visibility: under a disabled frame isEnabled() is false
+    // whatever the model says, and the flag would be left behind for when the frame comes back.
+    if (w.testAttribute(Qt::WA_ForceDisabled) == aktiv) {
         w.setEnabled(aktiv);
     }
 }
