@@ -13,7 +13,7 @@
 #include "print/qt/QtDrucker.h"
 #include "project/c_glob.h"
 #include "tools/bildbogen/Bildablage.h"
-#include "tools/bildbogen/Stilledialoge.h"
+#include "tools/bildbogen/StillesProgramm.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
 #include "ui/ZoomFenster.h"
@@ -23,10 +23,8 @@
 #include <QFile>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTemporaryDir>
 #include <QTimer>
 
-#include <filesystem>
 #include <iostream>
 #include <string>
 #include <utility>
@@ -67,16 +65,10 @@ void Bildbogen::ablegen(QWidget& w, const QString& name, const QString& titel,
 
 std::vector<Bild> Bildbogen::sprache(const std::string& sprache, const std::string& projekt) {
     std::vector<Bild> bilder;
-    Stilledialoge dialoge;
     // Each language starts on a record of its own.
-    auto datensatz = std::make_unique<Projekt>();
-    Desktopprogramm programm(*datensatz, &dialoge, [] { return std::string(); });
-    // The program may write its language file into the station folder: a copy keeps the
-    // delivered one as it is.
-    QTemporaryDir klima;
-    std::filesystem::copy(programm.klimaordner, klima.path().toStdString(),
-                          std::filesystem::copy_options::recursive);
-    programm.klimaordner = klima.path().toStdString();
+    StillesProgramm lauf;
+    Desktopprogramm& programm = lauf.programm;
+    Stilledialoge& dialoge = lauf.dialoge;
     programm.starten(sprache);
     Hauptfenster& haupt = *programm.haupt;
     if (!projekt.empty()) {

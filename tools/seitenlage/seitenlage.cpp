@@ -3,7 +3,7 @@
 // with its kind, place in its parent, German and English text, and the model a bound control
 // follows. `seitenlage FILE` writes FILE; `seitenlage --pruefen FILE` fails when FILE is not
 // what the planes build now; `seitenlage --diagramme DIR` saves the overview's charts as PNG.
-#include "tools/bildbogen/Stilledialoge.h"
+#include "tools/bildbogen/StillesProgramm.h"
 #include "ui/ChartWidget.h"
 #include "ui/Desktopprogramm.h"
 #include "ui/Hauptfenster.h"
@@ -23,9 +23,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTemporaryDir>
 
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -93,21 +91,12 @@ void sammeln(const QWidget* w, std::vector<const QWidget*>& liste) {
 }
 
 struct Lauf {
-    // The program may write its language file into the station folder: a copy keeps the
-    // delivered one as it is.
-    QTemporaryDir klima;
-    Stilledialoge dialoge;
+    StillesProgramm stille;
+    Desktopprogramm* programm = &stille.programm;
     Bindungsliste bindungen;
-    std::unique_ptr<Projekt> datensatz = std::make_unique<Projekt>();
-    std::unique_ptr<Desktopprogramm> programm;
     std::vector<const QWidget*> widgets;
 
     explicit Lauf(const char* sprache) {
-        programm =
-            std::make_unique<Desktopprogramm>(*datensatz, &dialoge, [] { return std::string(); });
-        std::filesystem::copy(programm->klimaordner, klima.path().toStdString(),
-                              std::filesystem::copy_options::recursive);
-        programm->klimaordner = klima.path().toStdString();
         Bindungen::gebunden = [this](const Bindungen::Bindung& b) { bindungen[b.widget] = b; };
         programm->starten(sprache);
         Bindungen::gebunden = nullptr;

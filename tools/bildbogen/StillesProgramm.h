@@ -2,8 +2,14 @@
 #pragma once
 
 #include "project/Dialogs.h"
+#include "project/c_glob.h"
+#include "ui/Desktopprogramm.h"
 
+#include <QTemporaryDir>
+
+#include <filesystem>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -27,5 +33,20 @@ public:
     std::optional<std::string> speichern_dialog(const std::string&, int,
                                                 const std::string&) override {
         return std::nullopt;
+    }
+};
+
+// The desktop program on a record of its own and on a copy of the station folder (it may write
+// its language file there; the delivered folder stays as it is), not yet started.
+struct StillesProgramm {
+    QTemporaryDir klima;
+    Stilledialoge dialoge;
+    std::unique_ptr<Projekt> datensatz = std::make_unique<Projekt>();
+    Desktopprogramm programm{*datensatz, &dialoge, [] { return std::string(); }};
+
+    StillesProgramm() {
+        std::filesystem::copy(programm.klimaordner, klima.path().toStdString(),
+                              std::filesystem::copy_options::recursive);
+        programm.klimaordner = klima.path().toStdString();
     }
 };
